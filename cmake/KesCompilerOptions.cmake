@@ -1,0 +1,43 @@
+# Compiler settings shared by every target of the project (not exported to consumers).
+add_library(kes_build_options INTERFACE)
+target_compile_options(kes_build_options INTERFACE -Wall -Wextra)
+if(KES_WARNINGS_AS_ERRORS)
+    target_compile_options(kes_build_options INTERFACE -Werror)
+endif()
+if(KES_SANITIZE)
+    # No recovery: an undefined-behaviour report must fail the test that triggered it.
+    set(_kes_san -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_compile_options(kes_build_options INTERFACE ${_kes_san})
+    target_link_options(kes_build_options INTERFACE ${_kes_san})
+endif()
+
+# kes_add_library(<target> <export name> SOURCES ... HEADERS ... [LIBS ...])
+# One shared library with its generated export header <kes/<dir>/<target>_export.h>.
+function(kes_add_library target export_name dir)
+    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_LIBS;PRIVATE_LIBS" ${ARGN})
+    add_library(${target} SHARED ${ARG_SOURCES})
+    add_library(Kes::${export_name} ALIAS ${target})
+    string(TOUPPER ${target} upper)
+    generate_export_header(${target}
+        BASE_NAME ${upper}
+        EXPORT_FILE_NAME ${KES_GENERATED_INCLUDE_DIR}/kes/${dir}/${target}_export.h)
+    target_include_directories(${target} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
+        $<BUILD_INTERFACE:${KES_GENERATED_INCLUDE_DIR}>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    target_link_libraries(${target} PUBLIC ${ARG_PUBLIC_LIBS} PRIVATE kes_build_options ${ARG_PRIVATE_LIBS})
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${export_name}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+    install(TARGETS ${target} EXPORT KesTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/kes/${dir}/
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kes/${dir}
+        FILES_MATCHING PATTERN "*.h")
+    install(DIRECTORY ${KES_GENERATED_INCLUDE_DIR}/kes/${dir}/
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kes/${dir}
+        FILES_MATCHING PATTERN "*.h")
+endfunction()

@@ -1,0 +1,1 @@
+namespace { int kesQtIconsPlaceholder = 0; }

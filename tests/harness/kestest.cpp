@@ -1,0 +1,146 @@
+#include "kestest.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QList>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QThread>
+#include <QtTest>
+
+#include <unistd.h>
+
+namespace kes::test {
+
+namespace {
+
+QtMessageHandler g_qtestHandler = nullptr;
+QMutex g_mutex;
+QList<QRegularExpression> g_expected;
+QByteArray g_pendingFailure; // a warning from another thread, reported on the GUI thread
+
+// Messages the offscreen platform prints about features it cannot offer; they say nothing about
+// the code under test.
+bool isPlatformNoise(const QString& message)
+{
+    static const char* const noise[] = {
+        "This plugin does not support propagateSizeHints()",
+        "This plugin does not support raise()",
+        "This plugin does not support grabbing the keyboard",
+        "This plugin does not support grabbing the mouse",
+        "This plugin does not support setting window opacity",
+    };
+    for (const char* text : noise) {
+        if (message.startsWith(QLatin1String(text)))
+            return true;
+    }
+    return false;
+}
+
+bool takeExpected(const QString& message)
+{
+    QMutexLocker lock(&g_mutex);
+    for (int i = 0; i < g_expected.size(); ++i) {
+        if (g_expected.at(i).match(message).hasMatch()) {
+            g_expected.removeAt(i);
+            return true;
+        }
+    }
+    return false;
+}
+
+void failOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg;
+    if (isWarning && takeExpected(message)) {
+        g_qtestHandler(type, context, message); // lets QTest tick off its own expectation
+        return;
+    }
+    g_qtestHandler(type, context, message);
+    if (!isWarning || isPlatformNoise(message))
+        return;
+    const QByteArray text = "Unexpected Qt " + QByteArray(type == QtWarningMsg ? "warning" : "critical")
+                            + ": " + message.toLocal8Bit();
+    if (QCoreApplication::instance() && QThread::currentThread() != QCoreApplication::instance()->thread()) {
+        QMutexLocker lock(&g_mutex);
+        if (g_pendingFailure.isEmpty())
+            g_pendingFailure = text;
+        return;
+    }
+    QTest::qFail(text.constData(), context.file ? context.file : "unknown", context.line);
+}
+
+// Worker-thread warnings cannot touch the test log directly; the next event the GUI thread handles
+// turns them into a failure of whichever test function is running then.
+class PendingFailureReporter : public QObject
+{
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (!g_pendingFailure.isEmpty()) {
+            QByteArray text;
+            {
+                QMutexLocker lock(&g_mutex);
+                text.swap(g_pendingFailure);
+            }
+            if (!text.isEmpty())
+                QTest::qFail(text.constData(), "worker thread", 0);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+void setIfUnset(const char* name, const QByteArray& value)
+{
+    if (qEnvironmentVariableIsEmpty(name))
+        qputenv(name, value);
+}
+
+} // namespace
+
+void prepareEnvironment()
+{
+    setIfUnset("QT_QPA_PLATFORM", "offscreen");
+    // Private folders: tests never read or write the user's real settings, and Qt does not warn
+    // about a missing runtime folder.
+    const QByteArray root = QDir::tempPath().toLocal8Bit() + "/kes-test-" + QByteArray::number(qint64(::getpid()));
+    for (const char* sub : {"/config", "/data", "/cache", "/runtime"})
+        QDir().mkpath(QString::fromLocal8Bit(root + sub));
+    QFile::setPermissions(QString::fromLocal8Bit(root + "/runtime"),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    qputenv("XDG_CONFIG_HOME", root + "/config");
+    qputenv("XDG_DATA_HOME", root + "/data");
+    qputenv("XDG_CACHE_HOME", root + "/cache");
+    qputenv("XDG_RUNTIME_DIR", root + "/runtime");
+    QCoreApplication::setOrganizationName(QStringLiteral("kes-tests"));
+}
+
+int exec(QObject* testObject, int argc, char** argv)
+{
+    QTest::qInit(testObject, argc, argv);
+    // QTest installs its own handler in qInit; ours goes on top and passes everything to it.
+    g_qtestHandler = qInstallMessageHandler(failOnWarning);
+    PendingFailureReporter reporter;
+    QCoreApplication::instance()->installEventFilter(&reporter);
+    const int result = QTest::qRun();
+    QCoreApplication::instance()->removeEventFilter(&reporter);
+    qInstallMessageHandler(g_qtestHandler);
+    QTest::qCleanup();
+    return result;
+}
+
+void ignoreWarning(const QRegularExpression& pattern, QtMsgType type)
+{
+    {
+        QMutexLocker lock(&g_mutex);
+        g_expected.append(pattern);
+    }
+    QTest::ignoreMessage(type, pattern);
+}
+
+void ignoreWarning(const QString& exactMessage, QtMsgType type)
+{
+    ignoreWarning(QRegularExpression(QLatin1Char('^') + QRegularExpression::escape(exactMessage) + QLatin1Char('$')), type);
+}
+
+} // namespace kes::test
