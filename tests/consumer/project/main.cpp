@@ -1,0 +1,39 @@
+// A program outside the library's tree that uses one exported symbol of each installed library.
+#include <kes/core/image/image.h>
+#include <kes/cv/convert.h>
+#include <kes/qt/version.h>
+
+#include <QGuiApplication>
+#include <QImage>
+
+#include <cstdio>
+#include <cstring>
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+
+    using namespace kes::core::image;
+    Image bgr(ImageInfo(4, 3, 3, 1, Bgr));
+    std::memset(bgr.data(), 0, bgr.step() * 3);
+    bgr.data()[2] = 255; // first pixel pure red
+    setRoi(bgr, kes::core::Roi(0, 0, 2, 2));
+    const Image hsv = kes::cv::convert(bgr, Hsv);
+    if (hsv.isNull() || hsv.info().width != 2 || hsv.constData()[1] != 255) {
+        std::fprintf(stderr, "convert gave an unexpected image\n");
+        return 1;
+    }
+
+    const QImage icon(QStringLiteral(":/kes_qt/icons/warning.png"));
+    if (icon.isNull()) {
+        std::fprintf(stderr, "the library's icon resource is missing\n");
+        return 1;
+    }
+    if (std::strcmp(kes::qt::libraryVersion(), KES_VERSION_STRING) != 0) {
+        std::fprintf(stderr, "library %s does not match headers %s\n", kes::qt::libraryVersion(), KES_VERSION_STRING);
+        return 1;
+    }
+    std::printf("kes %s consumer ok\n", kes::qt::libraryVersion());
+    return 0;
+}
