@@ -1,0 +1,23 @@
+# cmake -DPNG=<file> -DWIDTH=<pixels> -DHEIGHT=<pixels> -P checkpng.cmake
+# Fails unless <file> is a PNG image of exactly that size.
+if(NOT EXISTS "${PNG}")
+    message(FATAL_ERROR "${PNG} does not exist")
+endif()
+file(READ "${PNG}" header LIMIT 24 HEX)
+string(LENGTH "${header}" length)
+if(length LESS 48)
+    message(FATAL_ERROR "${PNG} is too short to be a PNG image")
+endif()
+# 8 signature bytes, then the IHDR chunk: 4 bytes length, "IHDR", big-endian width and height.
+string(SUBSTRING "${header}" 0 16 signature)
+string(SUBSTRING "${header}" 24 8 chunk)
+string(SUBSTRING "${header}" 32 8 width_hex)
+string(SUBSTRING "${header}" 40 8 height_hex)
+if(NOT signature STREQUAL "89504e470d0a1a0a" OR NOT chunk STREQUAL "49484452")
+    message(FATAL_ERROR "${PNG} is not a PNG image")
+endif()
+math(EXPR width "0x${width_hex}")
+math(EXPR height "0x${height_hex}")
+if(NOT width EQUAL WIDTH OR NOT height EQUAL HEIGHT)
+    message(FATAL_ERROR "${PNG} is ${width}x${height}, expected ${WIDTH}x${HEIGHT}")
+endif()

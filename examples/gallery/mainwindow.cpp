@@ -1,0 +1,212 @@
+#include "mainwindow.h"
+
+#include "page.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QEvent>
+#include <QIcon>
+#include <QKeySequence>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QSplitter>
+#include <QStackedWidget>
+
+namespace kes::gallery {
+
+namespace {
+
+constexpr int defaultWidth = 1100;
+constexpr int defaultHeight = 720;
+constexpr int pageListWidth = 180;
+
+bool isValidPageId(const QString& id)
+{
+    static const QRegularExpression pattern(QStringLiteral("^[a-z0-9]+(-[a-z0-9]+)*$"));
+    return pattern.match(id).hasMatch();
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent)
+{
+    m_pageList = new QListWidget(this);
+    m_pageList->setObjectName(QStringLiteral("pageList"));
+    m_pageList->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_pageList->setUniformItemSizes(true);
+    m_pageList->setMinimumWidth(140);
+    // The default rows are as tight as a file list; a navigation list reads better with air.
+    m_pageList->setStyleSheet(QStringLiteral("QListView::item { padding: 6px 10px; }"));
+
+    m_pageStack = new QStackedWidget(this);
+    m_pageStack->setObjectName(QStringLiteral("pageStack"));
+
+    m_splitter = new QSplitter(Qt::Horizontal, this);
+    m_splitter->addWidget(m_pageList);
+    m_splitter->addWidget(m_pageStack);
+    m_splitter->setCollapsible(0, false);
+    m_splitter->setCollapsible(1, false);
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setSizes({pageListWidth, defaultWidth - pageListWidth});
+    setCentralWidget(m_splitter);
+
+    connect(m_pageList, &QListWidget::currentRowChanged, this, &MainWindow::onCurrentRowChanged);
+
+    m_quitAction = new QAction(this);
+    m_quitAction->setIcon(QIcon::fromTheme(QStringLiteral("application-exit")));
+    // QKeySequence::Quit is empty on some platforms; the gallery wants one shortcut everywhere.
+    m_quitAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    m_quitAction->setMenuRole(QAction::QuitRole);
+    connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
+
+    m_aboutQtAction = new QAction(this);
+    m_aboutQtAction->setMenuRole(QAction::AboutQtRole);
+    connect(m_aboutQtAction, &QAction::triggered, qApp, &QApplication::aboutQt);
+
+    m_fileMenu = menuBar()->addMenu(QString());
+    m_fileMenu->addAction(m_quitAction);
+    m_helpMenu = menuBar()->addMenu(QString());
+    m_helpMenu->addAction(m_aboutQtAction);
+
+    resize(defaultWidth, defaultHeight);
+    retranslateUi();
+}
+
+MainWindow::~MainWindow()
+{
+    // Pages still exist here but not after QWidget's destructor, so stop their timers now.
+    if (m_activePage) {
+        m_activePage->deactivated();
+    }
+}
+
+void MainWindow::addPage(Page* page)
+{
+    Q_ASSERT(page);
+    const QString id = page->id();
+    if (!isValidPageId(id)) {
+        qFatal("gallery page id \"%s\" is not lower-case letters, digits and single dashes",
+               qUtf8Printable(id));
+    }
+    if (this->page(id)) {
+        qFatal("gallery page id \"%s\" is used twice", qUtf8Printable(id));
+    }
+
+    m_pages.append(page);
+    m_pageStack->addWidget(page);
+    auto* item = new QListWidgetItem(page->title(), m_pageList);
+    item->setData(Qt::UserRole, id);
+    if (m_pages.size() == 1) {
+        m_pageList->setCurrentRow(0);
+    }
+}
+
+QList<Page*> MainWindow::pages() const
+{
+    return m_pages;
+}
+
+Page* MainWindow::page(const QString& id) const
+{
+    for (Page* p : m_pages) {
+        if (p->id() == id) {
+            return p;
+        }
+    }
+    return nullptr;
+}
+
+Page* MainWindow::currentPage() const
+{
+    const int row = m_pageList->currentRow();
+    return row >= 0 && row < m_pages.size() ? m_pages.at(row) : nullptr;
+}
+
+bool MainWindow::setCurrentPage(const QString& id)
+{
+    Page* p = page(id);
+    if (!p) {
+        return false;
+    }
+    setCurrentPage(p);
+    return true;
+}
+
+void MainWindow::setCurrentPage(Page* page)
+{
+    const int row = m_pages.indexOf(page);
+    if (row >= 0) {
+        m_pageList->setCurrentRow(row);
+    }
+}
+
+QAction* MainWindow::insertMenu(QMenu* menu)
+{
+    Q_ASSERT(menu);
+    menu->setParent(menuBar(), menu->windowFlags());
+    return menuBar()->insertMenu(m_helpMenu->menuAction(), menu);
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    updateActivePage();
+}
+
+void MainWindow::hideEvent(QHideEvent* event)
+{
+    QMainWindow::hideEvent(event);
+    updateActivePage();
+}
+
+void MainWindow::retranslateUi()
+{
+    setWindowTitle(tr("libkes_qt gallery"));
+    m_fileMenu->setTitle(tr("&File"));
+    m_quitAction->setText(tr("&Quit"));
+    m_helpMenu->setTitle(tr("&Help"));
+    m_aboutQtAction->setText(tr("About &Qt"));
+    for (int row = 0; row < m_pages.size(); ++row) {
+        Page* p = m_pages.at(row);
+        p->retranslate();
+        m_pageList->item(row)->setText(p->title());
+    }
+}
+
+void MainWindow::onCurrentRowChanged(int row)
+{
+    if (row >= 0 && row < m_pages.size()) {
+        m_pageStack->setCurrentWidget(m_pages.at(row));
+    }
+    updateActivePage();
+    Q_EMIT currentPageChanged(currentPage());
+}
+
+void MainWindow::updateActivePage()
+{
+    Page* wanted = isVisible() ? currentPage() : nullptr;
+    if (wanted == m_activePage) {
+        return;
+    }
+    if (m_activePage) {
+        m_activePage->deactivated();
+    }
+    m_activePage = wanted;
+    if (m_activePage) {
+        m_activePage->activated();
+    }
+}
+
+} // namespace kes::gallery

@@ -1,1 +1,0 @@
-namespace { int kesQtIconsPlaceholder = 0; }

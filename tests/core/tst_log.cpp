@@ -1,0 +1,178 @@
+#include <kes/core/log.h>
+
+#include <kestest.h>
+
+#include <QtTest>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <iostream>
+#include <mutex>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+using kes::core::Log;
+
+namespace {
+
+// A deadlock would otherwise hang the whole run until the test driver's timeout.
+template <typename Function>
+void finishWithin(Function function)
+{
+    std::future<void> done = std::async(std::launch::async, function);
+    if (done.wait_for(std::chrono::seconds(20)) != std::future_status::ready)
+        qFatal("still blocked after 20 s: deadlock");
+    done.get();
+}
+
+// Collects messages from any thread.
+struct Inbox
+{
+    std::mutex mutex;
+    std::vector<std::string> messages;
+
+    Log::Receiver receiver()
+    {
+        return [this](const std::string& message) {
+            std::lock_guard<std::mutex> lock(mutex);
+            messages.push_back(message);
+        };
+    }
+};
+
+} // namespace
+
+class TestLog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { Log::singleton().setReceiver({}); }
+
+    void receiverGetsMessageUnchanged_data()
+    {
+        QTest::addColumn<QByteArray>("message");
+        QTest::newRow("plain") << QByteArray("camera connected");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("utf-8") << QByteArray("Gr\xc3\xbc\xc3\x9f\x65 \xe2\x9c\x93");
+        QTest::newRow("several lines") << QByteArray("first\nsecond\n");
+        QTest::newRow("embedded nul") << QByteArray("a\0b", 3);
+    }
+
+    void receiverGetsMessageUnchanged()
+    {
+        QFETCH(QByteArray, message);
+        Inbox inbox;
+        Log::singleton().setReceiver(inbox.receiver());
+        Log::singleton().log(message.toStdString());
+        QCOMPARE(inbox.messages, std::vector<std::string>{message.toStdString()});
+    }
+
+    void receiverRunsOnLoggingThread()
+    {
+        std::thread::id receivedOn;
+        Log::singleton().setReceiver([&](const std::string&) { receivedOn = std::this_thread::get_id(); });
+        std::thread worker([] { Log::singleton().log("from worker"); });
+        const std::thread::id workerId = worker.get_id();
+        worker.join();
+        QVERIFY(receivedOn == workerId);
+    }
+
+    void withoutReceiverWritesLineToStandardError_data()
+    {
+        QTest::addColumn<bool>("receiverRemoved");
+        QTest::addColumn<QByteArray>("message");
+        QTest::addColumn<QByteArray>("written");
+        QTest::newRow("never set") << false << QByteArray("hello") << QByteArray("hello\n");
+        QTest::newRow("removed") << true << QByteArray("hello") << QByteArray("hello\n");
+        QTest::newRow("newline not doubled") << false << QByteArray("hello\n") << QByteArray("hello\n");
+        QTest::newRow("empty message") << false << QByteArray() << QByteArray("\n");
+    }
+
+    void withoutReceiverWritesLineToStandardError()
+    {
+        QFETCH(bool, receiverRemoved);
+        QFETCH(QByteArray, message);
+        QFETCH(QByteArray, written);
+        Inbox inbox;
+        if (receiverRemoved) {
+            Log::singleton().setReceiver(inbox.receiver());
+            Log::singleton().setReceiver({});
+        }
+        std::ostringstream captured;
+        std::streambuf* const previous = std::cerr.rdbuf(captured.rdbuf());
+        Log::singleton().log(message.toStdString());
+        std::cerr.rdbuf(previous);
+        QCOMPARE(QByteArray::fromStdString(captured.str()), written);
+        QVERIFY(inbox.messages.empty());
+    }
+
+    void receiverMayLogAndReplaceReceiver()
+    {
+        std::vector<std::string> got;
+        Log& log = Log::singleton();
+        // The first receiver replaces itself while running: it must survive until it returns.
+        log.setReceiver([&](const std::string& message) {
+            got.push_back("first:" + message);
+            if (message == "outer") {
+                log.log("inner");
+                log.setReceiver([&](const std::string& next) { got.push_back("second:" + next); });
+                log.log("after");
+            }
+        });
+        finishWithin([&] {
+            log.log("outer");
+            log.log("later");
+        });
+        QCOMPARE(got, (std::vector<std::string>{"first:outer", "first:inner", "second:after", "second:later"}));
+    }
+
+    // Receivers are swapped all the while, so a receiver read while another thread replaces it
+    // would show as a lost message or as a fault under the sanitizers.
+    void concurrentLoggingDeliversEveryMessage()
+    {
+        constexpr int threadCount = 6;
+        constexpr int perThread = 2000;
+        Inbox first;
+        Inbox second;
+        const Log::Receiver toFirst = first.receiver();
+        const Log::Receiver toSecond = second.receiver();
+        Log::singleton().setReceiver(toFirst);
+        finishWithin([&] {
+            std::atomic<bool> logging{true};
+            std::thread swapper([&] {
+                for (int i = 0; logging; ++i)
+                    Log::singleton().setReceiver(i % 2 ? toFirst : toSecond);
+            });
+            std::vector<std::thread> threads;
+            for (int t = 0; t < threadCount; ++t) {
+                threads.emplace_back([t] {
+                    for (int i = 0; i < perThread; ++i)
+                        Log::singleton().log(std::to_string(t) + ':' + std::to_string(i));
+                });
+            }
+            for (std::thread& thread : threads)
+                thread.join();
+            logging = false;
+            swapper.join();
+        });
+        std::vector<std::string> expected;
+        for (int t = 0; t < threadCount; ++t) {
+            for (int i = 0; i < perThread; ++i)
+                expected.push_back(std::to_string(t) + ':' + std::to_string(i));
+        }
+        std::vector<std::string> delivered = first.messages;
+        delivered.insert(delivered.end(), second.messages.begin(), second.messages.end());
+        std::sort(expected.begin(), expected.end());
+        std::sort(delivered.begin(), delivered.end());
+        QCOMPARE(delivered.size(), expected.size());
+        QVERIFY(delivered == expected);
+    }
+};
+
+KES_TEST_MAIN(TestLog)
+#include "tst_log.moc"
