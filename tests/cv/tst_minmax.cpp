@@ -1,5 +1,6 @@
 #include <kes/cv/minmax.h>
 
+#include "guardcase.h"
 #include "kestest.h"
 
 #include <kes/core/image/image.h>
@@ -18,8 +19,6 @@ using kes::core::image::Format;
 using kes::core::image::Image;
 using kes::core::image::ImageInfo;
 
-Q_DECLARE_METATYPE(kes::core::image::ImageInfo)
-Q_DECLARE_METATYPE(kes::core::Roi)
 
 namespace {
 
@@ -189,10 +188,7 @@ private Q_SLOTS:
 
     void rejectsInconsistentImage_data()
     {
-        QTest::addColumn<ImageInfo>("info");
-        QTest::addColumn<int>("step");
-        QTest::addColumn<bool>("hasPixels");
-        QTest::addColumn<Roi>("roi");
+        kes::test::addGuardColumns();
 
         const auto grey = kes::core::image::Grey;
         const Roi whole;
@@ -216,17 +212,8 @@ private Q_SLOTS:
 
     void rejectsInconsistentImage()
     {
-        QFETCH(ImageInfo, info);
-        QFETCH(int, step);
-        QFETCH(bool, hasPixels);
-        QFETCH(Roi, roi);
-
-        // Exactly the bytes the layout claims, so that a read past them shows up under the sanitizers.
-        const std::size_t claimed = std::size_t(step) * std::size_t(std::max(info.height, 1));
-        std::vector<std::uint8_t> memory(std::max<std::size_t>(claimed, 1), 7);
-        Image image(info, hasPixels ? memory.data() : nullptr, std::size_t(step));
-        if (!roi.isEmpty())
-            setRoi(image, roi);
+        const kes::test::GuardCase guard;
+        const Image& image = guard.image();
 
         std::vector<double> min{-1.0, 42.0};
         std::vector<double> max{17.0};
