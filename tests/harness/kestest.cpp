@@ -6,12 +6,12 @@
 #include <QList>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QTemporaryDir>
 #include <QThread>
 #include <QtTest>
 
 #include <cstdio>
-
-#include <unistd.h>
+#include <memory>
 
 namespace kes::test {
 
@@ -22,6 +22,7 @@ QMutex g_mutex;
 QList<QRegularExpression> g_expected;
 QByteArray g_pendingFailure; // a warning from another thread, reported on the GUI thread
 QObject* g_reporter = nullptr;
+std::unique_ptr<QTemporaryDir> g_home; // removed with everything in it when the run ends
 
 // Messages the offscreen platform prints about features it cannot offer; they say nothing about
 // the code under test.
@@ -113,7 +114,8 @@ void prepareEnvironment()
     setIfUnset("QT_QPA_PLATFORM", "offscreen");
     // Private folders: tests never read or write the user's real settings, and Qt does not warn
     // about a missing runtime folder.
-    const QByteArray root = QDir::tempPath().toLocal8Bit() + "/kes-test-" + QByteArray::number(qint64(::getpid()));
+    g_home = std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/kes-test-XXXXXX"));
+    const QByteArray root = QFile::encodeName(g_home->path());
     for (const char* sub : {"/config", "/data", "/cache", "/runtime"})
         QDir().mkpath(QString::fromLocal8Bit(root + sub));
     QFile::setPermissions(QString::fromLocal8Bit(root + "/runtime"),
@@ -142,6 +144,7 @@ int exec(QObject* testObject, int argc, char** argv)
         ++result;
     }
     QTest::qCleanup();
+    g_home.reset();
     return result;
 }
 
