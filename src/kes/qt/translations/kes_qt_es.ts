@@ -1,0 +1,11 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name>kes::qt::translation::Menu</name>
+    <message>
+        <source>&amp;Languages</source>
+        <translation>&amp;Idiomas</translation>
+    </message>
+</context>
+</TS>
