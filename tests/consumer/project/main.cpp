@@ -1,9 +1,12 @@
 // A program outside the library's tree that uses one exported symbol of each installed library.
 #include <kes/core/image/image.h>
 #include <kes/cv/convert.h>
+#include <kes/qt/translation/manager.h>
+#include <kes/qt/translation/menu.h>
 #include <kes/qt/version.h>
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QFileInfo>
 #include <QImage>
 
 #include <cstdio>
@@ -12,7 +15,9 @@
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
+    // The language choice is stored in the settings; keep it out of the user's own.
+    qputenv("XDG_CONFIG_HOME", CONSUMER_CONFIG_HOME);
+    QApplication app(argc, argv);
 
     using namespace kes::core::image;
     Image bgr(ImageInfo(4, 3, 3, 1, Bgr));
@@ -28,6 +33,17 @@ int main(int argc, char** argv)
     const QImage icon(QStringLiteral(":/kes_qt/icons/warning.png"));
     if (icon.isNull()) {
         std::fprintf(stderr, "the library's icon resource is missing\n");
+        return 1;
+    }
+    // The installed language list and the translations compiled into the library.
+    auto& languages = kes::qt::translation::Manager::singleton();
+    if (!languages.load(QFileInfo(QStringLiteral(KES_LANGUAGES)))) {
+        std::fprintf(stderr, "cannot load the installed language list %s\n", KES_LANGUAGES);
+        return 1;
+    }
+    languages.setLanguage(QStringLiteral("de"));
+    if (kes::qt::translation::Menu().title() != QStringLiteral("&Sprachen")) {
+        std::fprintf(stderr, "the library's German translation is missing\n");
         return 1;
     }
     if (std::strcmp(kes::qt::libraryVersion(), KES_VERSION_STRING) != 0) {
