@@ -1,6 +1,7 @@
 #include "aboutpage.h"
 
 #include "flowlayout.h"
+#include "style.h"
 
 #include <kes/qt/version.h>
 
@@ -22,6 +23,8 @@
 namespace kes::gallery {
 
 namespace {
+
+using namespace style;
 
 const QString iconDirectory = QStringLiteral(":/kes_qt/icons/");
 const QString libraryName = QStringLiteral("libkes_qt");
@@ -76,41 +79,6 @@ int naturalCompare(const QString& a, const QString& b)
     const int rest = (a.size() - i) - (b.size() - j);
     // "a01" and "a1" tie numerically; a plain comparison keeps the order total.
     return rest != 0 ? rest : a.compare(b);
-}
-
-QFont scaledFont(QFont font, qreal factor, bool bold)
-{
-    if (font.pointSizeF() > 0) {
-        font.setPointSizeF(font.pointSizeF() * factor);
-    } else {
-        font.setPixelSize(qRound(font.pixelSize() * factor));
-    }
-    font.setBold(bold);
-    return font;
-}
-
-void scaleFont(QWidget* widget, qreal factor, bool bold)
-{
-    widget->setFont(scaledFont(widget->font(), factor, bold));
-}
-
-void muteText(QWidget* widget)
-{
-    QPalette palette = widget->palette();
-    const QColor text = palette.color(QPalette::WindowText);
-    const QColor window = palette.color(QPalette::Window);
-    const auto mix = [](int t, int w) { return (t * 62 + w * 38) / 100; };
-    palette.setColor(QPalette::WindowText,
-                     QColor(mix(text.red(), window.red()), mix(text.green(), window.green()),
-                            mix(text.blue(), window.blue())));
-    widget->setPalette(palette);
-}
-
-QLabel* sectionHeading(QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    scaleFont(label, 1.25, true);
-    return label;
 }
 
 QLabel* selectableValue(const QString& text, QWidget* parent)

@@ -2,18 +2,25 @@
 #include "mainwindow.h"
 #include "page.h"
 #include "screenshots.h"
+#include "translationpage.h"
 
+#include <kes/qt/translation/manager.h>
+#include <kes/qt/translation/menu.h>
 #include <kes/qt/version.h>
 
 #include <QApplication>
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QFileInfo>
+#include <QSettings>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 #include <cstddef>
 #include <cstring>
 #include <initializer_list>
+#include <optional>
 
 namespace {
 
@@ -23,6 +30,7 @@ using kes::gallery::MainWindow;
 void addPages(MainWindow& window)
 {
     window.addPage(new kes::gallery::AboutPage);
+    window.addPage(new kes::gallery::TranslationPage);
 }
 
 bool hasOption(int argc, char** argv, std::initializer_list<const char*> names)
@@ -47,6 +55,15 @@ QString translate(const char* text)
     return QCoreApplication::translate("main", text);
 }
 
+// Screenshots keep their hands off the user's settings, the stored language among them: the
+// gallery's settings go to \a directory for the rest of the run.
+void redirectSettings(const QTemporaryDir& directory)
+{
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, directory.path());
+    QSettings::setPath(QSettings::IniFormat, QSettings::SystemScope, directory.path());
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -67,6 +84,8 @@ int main(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 
     QApplication app(argc, argv);
+    // Together they name the settings store in which the language manager keeps the language.
+    QApplication::setOrganizationName(QStringLiteral("KES"));
     QApplication::setApplicationName(QStringLiteral("kes_gallery"));
     QApplication::setApplicationVersion(QStringLiteral(KES_VERSION_STRING));
 
@@ -82,8 +101,14 @@ int main(int argc, char** argv)
     const QCommandLineOption pageOption(QStringLiteral("page"),
                                        translate("Shows the page <id> at start-up."),
                                        QStringLiteral("id"));
+    const QCommandLineOption languageOption(
+        QStringLiteral("language"),
+        translate("Starts in the language <code> (en, de, ...) instead of the stored one; "
+                  "screenshots are in English without it."),
+        QStringLiteral("code"));
     parser.addOption(screenshotOption);
     parser.addOption(pageOption);
+    parser.addOption(languageOption);
     parser.process(app);
 
     QTextStream err(stderr);
@@ -93,8 +118,41 @@ int main(int argc, char** argv)
         return 1;
     }
 
+    std::optional<QTemporaryDir> screenshotSettings;
+    if (parser.isSet(screenshotOption)) {
+        screenshotSettings.emplace();
+        if (!screenshotSettings->isValid()) {
+            err << translate("Cannot create a temporary directory for the settings: %1")
+                       .arg(screenshotSettings->errorString())
+                << '\n';
+            return 1;
+        }
+        redirectSettings(*screenshotSettings);
+    }
+
+    auto& languages = kes::qt::translation::Manager::singleton();
+    const QString languageList = QStringLiteral(":/gallery/languages.xml");
+    if (!languages.load(QFileInfo(languageList))) {
+        err << translate("Cannot read the language list %1").arg(languageList) << '\n';
+        return 1;
+    }
+    if (parser.isSet(languageOption)) {
+        const QString code = parser.value(languageOption);
+        if (languages.languageFromShortName(code) < 0) {
+            err << translate("There is no language \"%1\"; the languages are: %2")
+                       .arg(code, languages.shortNames().join(QStringLiteral(", ")))
+                << '\n';
+            return 1;
+        }
+        languages.setLanguage(code);
+    } else if (parser.isSet(screenshotOption)) {
+        // Whatever the system locale says: screenshots of different machines must compare.
+        languages.setLanguage(QStringLiteral("en"));
+    }
+
     MainWindow window;
     addPages(window);
+    window.insertMenu(new kes::qt::translation::Menu);
 
     if (parser.isSet(pageOption)) {
         const QString id = parser.value(pageOption);

@@ -2,6 +2,8 @@
 
 #include "page.h"
 
+#include <kes/qt/translation/manager.h>
+
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
@@ -74,6 +76,11 @@ MainWindow::MainWindow(QWidget* parent)
 
     resize(defaultWidth, defaultHeight);
     retranslateUi();
+
+    // LanguageChange arrives posted, and only when a translator is installed or removed; the
+    // manager's signal comes with every switch and at once, so pages and titles never lag behind.
+    connect(&kes::qt::translation::Manager::singleton(), SIGNAL(languageChanged()), this,
+            SLOT(retranslateUi()));
 }
 
 MainWindow::~MainWindow()

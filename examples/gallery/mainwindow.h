@@ -55,8 +55,10 @@ protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
-private:
+private Q_SLOTS:
     void retranslateUi();
+
+private:
     void onCurrentRowChanged(int row);
     void updateActivePage();
 
