@@ -4,8 +4,10 @@
 #include <kes/qt/kes_qt_export.h>
 #include <kes/qt/translation/item.h>
 
+#include <QHash>
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -61,7 +63,14 @@ public:
                               QList<int>* positions = nullptr);
 
 private:
+    void indexItem(const Item& item);
+    void unindexItem(const Item& item);
+
+    // The ordered map is the data model (keys() and the serialiser need its order); the hashes
+    // beside it answer lookups without walking a tree of string comparisons.
     QMap<QString, Item> m_items;
+    QSet<QString> m_keys;
+    QHash<QString, QHash<QString, QString>> m_byLanguage; // language -> key -> translation
 };
 
 using ContainerPtr = boost::shared_ptr<Container>;
