@@ -16,6 +16,8 @@
 #include <kes/qt/translation/loader.h>
 #include <kes/qt/translation/manager.h>
 
+#include "privatehome.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -857,20 +859,11 @@ int main(int argc, char** argv)
     // Headless, and private settings folders: the language manager stores its choice in QSettings,
     // which must never reach the user's real configuration.
     setIfUnset("QT_QPA_PLATFORM", "offscreen");
-    QTemporaryDir home(QDir::tempPath() + QStringLiteral("/kes-bench-XXXXXX"));
-    if (!home.isValid()) {
+    const auto home = kes::test::makePrivateHome(QStringLiteral("kes-bench"));
+    if (!home || !QDir().mkpath(home->filePath(QStringLiteral("files")))) {
         std::fprintf(stderr, "cannot create a temporary folder\n");
         return 1;
     }
-    const QByteArray root = QFile::encodeName(home.path());
-    for (const char* sub : {"/config", "/data", "/cache", "/runtime", "/files"})
-        QDir().mkpath(QString::fromLocal8Bit(root + sub));
-    QFile::setPermissions(QString::fromLocal8Bit(root + "/runtime"),
-                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    qputenv("XDG_CONFIG_HOME", root + "/config");
-    qputenv("XDG_DATA_HOME", root + "/data");
-    qputenv("XDG_CACHE_HOME", root + "/cache");
-    qputenv("XDG_RUNTIME_DIR", root + "/runtime");
 
     // Qt gets only the program name; the remaining arguments are Google Benchmark's.
     int qtArgc = 1;
@@ -902,7 +895,7 @@ int main(int argc, char** argv)
         return 1;
 
     Fixture fixture;
-    if (!setUp(fixture, home.path() + QStringLiteral("/files")))
+    if (!setUp(fixture, home->filePath(QStringLiteral("files"))))
         return 1;
     g_fixture = &fixture;
 

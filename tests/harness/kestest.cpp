@@ -1,5 +1,7 @@
 #include "kestest.h"
 
+#include "privatehome.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
@@ -109,18 +111,7 @@ void setIfUnset(const char* name, const QByteArray& value)
 void prepareEnvironment()
 {
     setIfUnset("QT_QPA_PLATFORM", "offscreen");
-    // Private folders: tests never read or write the user's real settings, and Qt does not warn
-    // about a missing runtime folder.
-    g_home = std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/kes-test-XXXXXX"));
-    const QByteArray root = QFile::encodeName(g_home->path());
-    for (const char* sub : {"/config", "/data", "/cache", "/runtime"})
-        QDir().mkpath(QString::fromLocal8Bit(root + sub));
-    QFile::setPermissions(QString::fromLocal8Bit(root + "/runtime"),
-                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    qputenv("XDG_CONFIG_HOME", root + "/config");
-    qputenv("XDG_DATA_HOME", root + "/data");
-    qputenv("XDG_CACHE_HOME", root + "/cache");
-    qputenv("XDG_RUNTIME_DIR", root + "/runtime");
+    g_home = makePrivateHome(QStringLiteral("kes-test"));
     QCoreApplication::setOrganizationName(QStringLiteral("kes-tests"));
 }
 
