@@ -46,6 +46,8 @@ public:
     /// Translates \a text into the language manager's current language, arguments included. A text
     /// without an item comes back unchanged (escapes too) when \a fallback is true, else empty.
     QString tr(const QString& text, bool fallback = true) const;
+    /// tr(text, "de") would otherwise compile as tr(text, true); name the fallback instead.
+    QString tr(const QString& text, const char* lang) const = delete;
 
     /// Makes sure there is an item under \a key; an existing item keeps its translations.
     void add(const QString& key);
