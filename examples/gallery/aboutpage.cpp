@@ -147,10 +147,7 @@ AboutPage::AboutPage(QWidget* parent)
     m_tagline = new QLabel(content);
     scaleFont(m_tagline, 1.15, false);
     muteText(m_tagline);
-    m_description = new QLabel(content);
-    m_description->setWordWrap(true);
-    m_description->setMaximumWidth(descriptionMaxWidth);
-    m_description->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_description = paragraph(descriptionMaxWidth, content);
 
     auto* introduction = new QVBoxLayout;
     introduction->setSpacing(0);

@@ -11,11 +11,14 @@
 #include <QApplication>
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QVariant>
+#include <QVariantMap>
 
 #include <cstddef>
 #include <cstring>
@@ -50,18 +53,66 @@ bool hasOption(int argc, char** argv, std::initializer_list<const char*> names)
     return false;
 }
 
-QString translate(const char* text)
+// The context of main()'s texts; Q_DECLARE_TR_FUNCTIONS lets lupdate see them, unlike a helper
+// taking the text as a variable.
+class Main
 {
-    return QCoreApplication::translate("main", text);
+    Q_DECLARE_TR_FUNCTIONS(main)
+};
+
+struct Options
+{
+    QCommandLineOption screenshot;
+    QCommandLineOption page;
+    QCommandLineOption language;
+};
+
+// The options, described in the current language.
+Options createOptions()
+{
+    return {
+        QCommandLineOption(QStringLiteral("screenshot"),
+                           Main::tr("Saves a picture of the window with each page as "
+                                    "<dir>/<page id>.png, then exits."),
+                           QStringLiteral("dir")),
+        QCommandLineOption(QStringLiteral("page"), Main::tr("Shows the page <id> at start-up."),
+                           QStringLiteral("id")),
+        QCommandLineOption(QStringLiteral("language"),
+                           Main::tr("Starts in the language <code> (en, de, ...) instead of the "
+                                    "stored one; screenshots are in English without it."),
+                           QStringLiteral("code")),
+    };
 }
 
-// Screenshots keep their hands off the user's settings, the stored language among them: the
-// gallery's settings go to \a directory for the rest of the run.
-void redirectSettings(const QTemporaryDir& directory)
+void setUpParser(QCommandLineParser& parser, const Options& options)
 {
+    parser.setApplicationDescription(Main::tr("Shows the widgets of libkes_qt, one page each."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption(options.screenshot);
+    parser.addOption(options.page);
+    parser.addOption(options.language);
+}
+
+// The gallery's settings go to \a directory for the rest of the run, so that nothing is stored in
+// the user's; with \a copy, they start as a copy of the user's.
+void redirectSettings(const QTemporaryDir& directory, bool copy)
+{
+    QVariantMap values;
+    if (copy) {
+        const QSettings user;
+        const QStringList keys = user.allKeys();
+        for (const QString& key : keys) {
+            values.insert(key, user.value(key));
+        }
+    }
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, directory.path());
     QSettings::setPath(QSettings::IniFormat, QSettings::SystemScope, directory.path());
+    QSettings redirected;
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        redirected.setValue(it.key(), it.value());
+    }
 }
 
 } // namespace
@@ -89,89 +140,94 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("kes_gallery"));
     QApplication::setApplicationVersion(QStringLiteral(KES_VERSION_STRING));
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(translate("Shows the widgets of libkes_qt, one page each."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption screenshotOption(
-        QStringLiteral("screenshot"),
-        translate("Saves a picture of the window with each page as <dir>/<page id>.png, "
-                  "then exits."),
-        QStringLiteral("dir"));
-    const QCommandLineOption pageOption(QStringLiteral("page"),
-                                       translate("Shows the page <id> at start-up."),
-                                       QStringLiteral("id"));
-    const QCommandLineOption languageOption(
-        QStringLiteral("language"),
-        translate("Starts in the language <code> (en, de, ...) instead of the stored one; "
-                  "screenshots are in English without it."),
-        QStringLiteral("code"));
-    parser.addOption(screenshotOption);
-    parser.addOption(pageOption);
-    parser.addOption(languageOption);
-    parser.process(app);
+    // The help must be built in the start language, which is only known once the settings are
+    // redirected for screenshots and the language list is loaded. A first, silent pass finds the
+    // options that decide both; the second pass reports errors and answers --help and --version.
+    const Options earlyOptions = createOptions();
+    QCommandLineParser earlyParser;
+    setUpParser(earlyParser, earlyOptions);
+    earlyParser.parse(QCoreApplication::arguments());
 
+    // Screenshots keep their hands off the user's settings, the stored language among them, and so
+    // do --help and --version; these work on a copy, to answer in the stored language.
+    const bool textOnlyRun = earlyParser.isSet(QStringLiteral("help"))
+                             || earlyParser.isSet(QStringLiteral("help-all"))
+                             || earlyParser.isSet(QStringLiteral("version"));
+    // Until the language list is loaded, messages can only be in English.
     QTextStream err(stderr);
-    if (!parser.positionalArguments().isEmpty()) {
-        err << translate("Unexpected argument: %1").arg(parser.positionalArguments().constFirst())
-            << '\n';
-        return 1;
-    }
-
-    std::optional<QTemporaryDir> screenshotSettings;
-    if (parser.isSet(screenshotOption)) {
-        screenshotSettings.emplace();
-        if (!screenshotSettings->isValid()) {
-            err << translate("Cannot create a temporary directory for the settings: %1")
-                       .arg(screenshotSettings->errorString())
+    std::optional<QTemporaryDir> settingsDirectory;
+    if (earlyParser.isSet(earlyOptions.screenshot) || textOnlyRun) {
+        settingsDirectory.emplace();
+        if (!settingsDirectory->isValid()) {
+            err << Main::tr("Cannot create a temporary directory for the settings: %1")
+                       .arg(settingsDirectory->errorString())
                 << '\n';
             return 1;
         }
-        redirectSettings(*screenshotSettings);
+        redirectSettings(*settingsDirectory, !earlyParser.isSet(earlyOptions.screenshot));
     }
 
     auto& languages = kes::qt::translation::Manager::singleton();
+    // The gallery's own message files, "kes_gallery_<language>.qm", built from translations/.
+    languages.addTranslatorSearchPath(QStringLiteral(":/gallery/translations/"));
     const QString languageList = QStringLiteral(":/gallery/languages.xml");
     if (!languages.load(QFileInfo(languageList))) {
-        err << translate("Cannot read the language list %1").arg(languageList) << '\n';
+        err << Main::tr("Cannot read the language list %1").arg(languageList) << '\n';
         return 1;
     }
-    if (parser.isSet(languageOption)) {
-        const QString code = parser.value(languageOption);
+    // An unknown code is reported after the second pass, in the language it leaves in place.
+    if (earlyParser.isSet(earlyOptions.language)) {
+        const QString code = earlyParser.value(earlyOptions.language);
+        if (languages.languageFromShortName(code) >= 0) {
+            languages.setLanguage(code);
+        }
+    } else if (earlyParser.isSet(earlyOptions.screenshot)) {
+        // Whatever the system locale says: screenshots of different machines must compare.
+        languages.setLanguage(QStringLiteral("en"));
+    }
+
+    const Options options = createOptions();
+    QCommandLineParser parser;
+    setUpParser(parser, options);
+    parser.process(app);
+
+    if (!parser.positionalArguments().isEmpty()) {
+        err << Main::tr("Unexpected argument: %1").arg(parser.positionalArguments().constFirst())
+            << '\n';
+        return 1;
+    }
+    if (parser.isSet(options.language)) {
+        const QString code = parser.value(options.language);
         if (languages.languageFromShortName(code) < 0) {
-            err << translate("There is no language \"%1\"; the languages are: %2")
+            err << Main::tr("There is no language \"%1\"; the languages are: %2")
                        .arg(code, languages.shortNames().join(QStringLiteral(", ")))
                 << '\n';
             return 1;
         }
-        languages.setLanguage(code);
-    } else if (parser.isSet(screenshotOption)) {
-        // Whatever the system locale says: screenshots of different machines must compare.
-        languages.setLanguage(QStringLiteral("en"));
     }
 
     MainWindow window;
     addPages(window);
     window.insertMenu(new kes::qt::translation::Menu);
 
-    if (parser.isSet(pageOption)) {
-        const QString id = parser.value(pageOption);
+    if (parser.isSet(options.page)) {
+        const QString id = parser.value(options.page);
         if (!window.setCurrentPage(id)) {
             QStringList ids;
             for (const auto* page : window.pages()) {
                 ids << page->id();
             }
-            err << translate("There is no page \"%1\"; the pages are: %2")
+            err << Main::tr("There is no page \"%1\"; the pages are: %2")
                        .arg(id, ids.join(QStringLiteral(", ")))
                 << '\n';
             return 1;
         }
     }
 
-    if (parser.isSet(screenshotOption)) {
-        const QString directory = parser.value(screenshotOption);
+    if (parser.isSet(options.screenshot)) {
+        const QString directory = parser.value(options.screenshot);
         if (directory.isEmpty()) {
-            err << translate("--screenshot needs a directory") << '\n';
+            err << Main::tr("--screenshot needs a directory") << '\n';
             return 1;
         }
         QString error;

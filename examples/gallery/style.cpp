@@ -6,6 +6,23 @@
 
 namespace kes::gallery::style {
 
+namespace {
+
+// QLabel reckons its height for the width the layout offers, not for the narrower one its maximum
+// leaves it; in a wider column it then gets too few lines of room and loses its last ones.
+class Paragraph : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    int heightForWidth(int width) const override
+    {
+        return QLabel::heightForWidth(qMin(width, maximumWidth()));
+    }
+};
+
+} // namespace
+
 QColor mixed(const QColor& a, const QColor& b, int percentOfA)
 {
     const auto mix = [percentOfA](int x, int y) {
@@ -43,6 +60,15 @@ QLabel* sectionHeading(QWidget* parent)
 {
     auto* label = new QLabel(parent);
     scaleFont(label, 1.25, true);
+    return label;
+}
+
+QLabel* paragraph(int maxWidth, QWidget* parent)
+{
+    auto* label = new Paragraph(parent);
+    label->setWordWrap(true);
+    label->setMaximumWidth(maxWidth);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return label;
 }
 

@@ -19,6 +19,9 @@ void scaleFont(QWidget* widget, qreal factor, bool bold);
 void muteText(QWidget* widget);
 /// An empty label in the font of a section heading.
 QLabel* sectionHeading(QWidget* parent);
+/// An empty word-wrapped label, top left aligned, at most \a maxWidth wide, whose height always
+/// fits its lines, however wide the column it sits in.
+QLabel* paragraph(int maxWidth, QWidget* parent);
 
 } // namespace kes::gallery::style
 

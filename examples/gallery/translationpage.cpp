@@ -31,15 +31,6 @@ enum Column { SourceColumn, KeyColumn, TranslationColumn, ColumnCount };
 
 constexpr int textMaxWidth = 820;
 
-QLabel* paragraph(QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    label->setWordWrap(true);
-    label->setMaximumWidth(textMaxWidth);
-    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    return label;
-}
-
 QTableWidgetItem* readOnlyItem()
 {
     auto* item = new QTableWidgetItem;
@@ -59,8 +50,8 @@ TranslationPage::TranslationPage(QWidget* parent)
     layout->setSpacing(0);
 
     m_introHeading = sectionHeading(this);
-    m_qtTexts = paragraph(this);
-    m_containerTexts = paragraph(this);
+    m_qtTexts = paragraph(textMaxWidth, this);
+    m_containerTexts = paragraph(textMaxWidth, this);
     layout->addWidget(m_introHeading);
     layout->addSpacing(6);
     layout->addWidget(m_qtTexts);
@@ -131,7 +122,7 @@ TranslationPage::TranslationPage(QWidget* parent)
     layout->addWidget(m_table, 1);
     layout->addSpacing(6);
 
-    m_tableNote = paragraph(this);
+    m_tableNote = paragraph(textMaxWidth, this);
     muteText(m_tableNote);
     layout->addWidget(m_tableNote);
     layout->addStretch();
@@ -259,8 +250,10 @@ void TranslationPage::updateRow(int row)
     // The page's own changes to the other columns are not edits to react to.
     const QSignalBlocker blocker(m_table);
     keyItem->setText(Container::removeArgs(source));
-    translationItem->setText(m_texts->tr(source, true));
-    if (!m_texts->contains(source)) {
+    // Through a reference: lupdate takes "->tr(" for a Qt tr() call it cannot place and warns.
+    const Container& texts = *m_texts;
+    translationItem->setText(texts.tr(source, true));
+    if (!texts.contains(source)) {
         const QPalette palette = m_table->palette();
         translationItem->setForeground(
             mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), 55));
@@ -268,7 +261,7 @@ void TranslationPage::updateRow(int row)
     } else {
         translationItem->setData(Qt::ForegroundRole, QVariant());
         translationItem->setToolTip(
-            m_texts->contains(source, language)
+            texts.contains(source, language)
                 ? QString()
                 : tr("No translation into \"%1\": the key, with the arguments put back.")
                       .arg(language));
