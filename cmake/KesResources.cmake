@@ -31,3 +31,41 @@ function(kes_add_resource_objects target)
         VISIBILITY_INLINES_HIDDEN ON)
     target_link_libraries(${target} PRIVATE kes_build_options Qt5::Core)
 endfunction()
+
+# kes_compile_translations(<qm list variable> OUTPUT_DIR <dir> TS <file.ts>...)
+# Compiles each Qt Linguist source with lrelease into <dir>/<name>.qm at build time and sets the
+# variable to the list of .qm files, for kes_add_resource_objects() or a test to use.
+function(kes_compile_translations out_var)
+    cmake_parse_arguments(ARG "" "OUTPUT_DIR" "TS" ${ARGN})
+    set(qm_files "")
+    foreach(ts ${ARG_TS})
+        get_filename_component(name ${ts} NAME_WE)
+        set(qm ${ARG_OUTPUT_DIR}/${name}.qm)
+        add_custom_command(OUTPUT ${qm}
+            COMMAND Qt5::lrelease -silent ${ts} -qm ${qm}
+            DEPENDS ${ts} Qt5::lrelease
+            COMMENT "Compiling the translation ${name}"
+            VERBATIM)
+        list(APPEND qm_files ${qm})
+    endforeach()
+    set(${out_var} ${qm_files} PARENT_SCOPE)
+endfunction()
+
+# kes_add_lupdate_target(<target> SOURCES <dir>... TS <file.ts>...)
+# A target that refreshes the .ts files from the tr() texts below the source folders. Run it after
+# adding or changing a text, translate the new entries and commit the .ts files. The include path
+# lets lupdate resolve classes declared in "namespace kes::x {", so that its contexts match the
+# run-time class names.
+function(kes_add_lupdate_target target)
+    cmake_parse_arguments(ARG "" "" "SOURCES;TS" ${ARGN})
+    set(includes -I ${PROJECT_SOURCE_DIR}/src)
+    foreach(dir ${ARG_SOURCES})
+        list(APPEND includes -I ${dir})
+    endforeach()
+    add_custom_target(${target}
+        COMMAND Qt5::lupdate -silent -recursive -no-obsolete -locations none ${includes}
+            ${ARG_SOURCES} -ts ${ARG_TS}
+        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
+        COMMENT "Refreshing the translation sources (${target})"
+        VERBATIM)
+endfunction()
