@@ -17,6 +17,7 @@
 #include <kes/qt/translation/manager.h>
 
 #include "privatehome.h"
+#include "summaryreporter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -39,13 +40,10 @@
 #include <cstdio>
 #include <functional>
 #include <iterator>
-#include <map>
 #include <memory>
 #include <random>
 #include <string>
 #include <vector>
-
-#include <unistd.h>
 
 namespace {
 
@@ -763,66 +761,7 @@ void BM_LoaderLoad(benchmark::State& state)
 // Summary
 // ---------------------------------------------------------------------------------------------
 
-// The console reporter, also keeping the CPU time per lookup of every benchmark for the ratios.
-class SummaryReporter : public benchmark::ConsoleReporter
-{
-public:
-    explicit SummaryReporter(OutputOptions options)
-        : ConsoleReporter(options)
-    {
-    }
-
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs) {
-            if (run.error_occurred)
-                continue;
-            const double ns = run.GetAdjustedCPUTime()
-                              / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
-            const std::string& name = run.run_name.function_name;
-            if (run.run_type == Run::RT_Iteration)
-                m_runs[name].push_back(ns);
-            else if (run.aggregate_name == "median")
-                m_medians[name] = ns;
-        }
-    }
-
-    /// The median over repetitions when there were any, else the mean of the runs; < 0 if none.
-    double nanoseconds(const std::string& name) const
-    {
-        const auto median = m_medians.find(name);
-        if (median != m_medians.end())
-            return median->second;
-        const auto runs = m_runs.find(name);
-        if (runs == m_runs.end() || runs->second.empty())
-            return -1.0;
-        double sum = 0.0;
-        for (const double ns : runs->second)
-            sum += ns;
-        return sum / double(runs->second.size());
-    }
-
-private:
-    std::map<std::string, std::vector<double>> m_runs;
-    std::map<std::string, double> m_medians;
-};
-
-void printRatio(const char* label, double numerator, double denominator, double goal)
-{
-    if (numerator < 0 || denominator <= 0) {
-        std::printf("  %-52s n/a (not run)\n", label);
-        return;
-    }
-    const double ratio = numerator / denominator;
-    if (goal > 0)
-        std::printf("  %-52s %6.2f  (goal <= %.0f: %s)\n", label, ratio, goal,
-                    ratio <= goal ? "met" : "MISSED");
-    else
-        std::printf("  %-52s %6.2f\n", label, ratio);
-}
-
-void printSummary(const SummaryReporter& reporter)
+void printSummary(const kes::bench::SummaryReporter& reporter)
 {
     const double containerPlain = reporter.nanoseconds(nameContainerPlain);
     const double containerArgs = reporter.nanoseconds(nameContainerArgs);
@@ -841,9 +780,11 @@ void printSummary(const SummaryReporter& reporter)
     line("QTranslator::translate + QString::arg, with arguments", qtArgs);
     if (load >= 0)
         std::printf("  %-52s %8.2f ms\n", "Loader::load, 10,000 items x 4 languages", load / 1e6);
-    printRatio("Container::tr(plain) / QTranslator(plain)", containerPlain, qtPlain, 1.0);
-    printRatio("Container::tr(args)  / QTranslator(plain)", containerArgs, qtPlain, 2.0);
-    printRatio("Container::tr(args)  / QTranslator+arg(args)", containerArgs, qtArgs, 0.0);
+    using kes::bench::Goal;
+    using kes::bench::printRatio;
+    printRatio("Container::tr(plain) / QTranslator(plain)", containerPlain, qtPlain, Goal::AtMost, 1.0);
+    printRatio("Container::tr(args)  / QTranslator(plain)", containerArgs, qtPlain, Goal::AtMost, 2.0);
+    printRatio("Container::tr(args)  / QTranslator+arg(args)", containerArgs, qtArgs);
 }
 
 void setIfUnset(const char* name, const QByteArray& value)
@@ -872,24 +813,8 @@ int main(int argc, char** argv)
     QCoreApplication::setOrganizationName(QStringLiteral("kes-bench"));
     QCoreApplication::setApplicationName(QStringLiteral("bench_translation"));
 
-    // Google Benchmark chooses the console options only for its own reporter; read the two flags
-    // that affect them before Initialize() consumes the arguments.
-    bool colour = isatty(fileno(stdout)) != 0;
-    bool tabular = false;
-    for (int i = 1; i < argc; ++i) {
-        const QByteArray arg(argv[i]);
-        if (arg.startsWith("--benchmark_color="))
-            colour = arg.endsWith("=true") || arg.endsWith("=yes") || arg.endsWith("=1")
-                     || (arg.endsWith("=auto") && isatty(fileno(stdout)) != 0);
-        else if (arg.startsWith("--benchmark_counters_tabular="))
-            tabular = arg.endsWith("=true") || arg.endsWith("=yes") || arg.endsWith("=1");
-    }
-    int options = benchmark::ConsoleReporter::OO_None;
-    if (colour)
-        options |= benchmark::ConsoleReporter::OO_Color;
-    if (tabular)
-        options |= benchmark::ConsoleReporter::OO_Tabular;
-
+    // Google Benchmark chooses the console options only for its own reporter.
+    const auto options = kes::bench::consoleOptions(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
@@ -905,7 +830,7 @@ int main(int argc, char** argv)
     benchmark::RegisterBenchmark(nameQtArgs, BM_QtArgs);
     benchmark::RegisterBenchmark(nameLoader, BM_LoaderLoad)->Unit(benchmark::kMillisecond);
 
-    SummaryReporter reporter(static_cast<benchmark::ConsoleReporter::OutputOptions>(options));
+    kes::bench::SummaryReporter reporter(options);
     benchmark::RunSpecifiedBenchmarks(&reporter);
     printSummary(reporter);
     benchmark::Shutdown();
