@@ -154,7 +154,7 @@ void tst_Log::postedBatchesMatchOneByOneWriting_data()
     QTest::newRow("line breaks inside messages") << false << breaks << 0;
     QStringList manyBreaks;
     for (int i = 0; i < 80; ++i)
-        manyBreaks << QStringLiteral("%1\nsecond\r").arg(i) << QStringLiteral("%1\r").arg(i % 3);
+        manyBreaks << QStringLiteral("%1\r\nsecond\r").arg(i) << QStringLiteral("%1\r").arg(i % 3);
     QTest::newRow("line breaks past the limit") << false << manyBreaks << 0;
     QTest::newRow("line breaks past the limit in batches") << false << manyBreaks << 9;
 }

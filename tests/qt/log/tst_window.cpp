@@ -3,11 +3,14 @@
 #include <kes/qt/log/log.h>
 #include <kes/qt/log/view.h>
 
+#include <kes/qt/translation/manager.h>
+
 #include "kestest.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
 #include <QScrollBar>
@@ -84,6 +87,7 @@ private Q_SLOTS:
     void showsTheHubAndFollowsNewLines();
     void contextMenuEndsWithHelp_data();
     void contextMenuEndsWithHelp();
+    void translatesOnlyWhenAsked();
 };
 
 void tst_Window::initTestCase()
@@ -221,6 +225,21 @@ void tst_Window::contextMenuEndsWithHelp()
     // The menu is gone, the action still belongs to the application.
     QVERIFY(!QApplication::activePopupWidget());
     QCOMPARE(help.text(), QStringLiteral("Help on the log"));
+}
+
+void tst_Window::translatesOnlyWhenAsked()
+{
+    auto& manager = kes::qt::translation::Manager::singleton();
+    QVERIFY(manager.load(QFileInfo(QStringLiteral(KES_LANGUAGE_LIST))));
+    manager.setLanguage(QStringLiteral("de"));
+    Window window(nullptr);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Protokoll"));
+
+    manager.setLanguage(QStringLiteral("fr"));
+    QCOMPARE(window.windowTitle(), QStringLiteral("Protokoll"));
+    window.translate();
+    QCOMPARE(window.windowTitle(), QStringLiteral("Journal"));
+    manager.setLanguage(QStringLiteral("en"));
 }
 
 KES_TEST_MAIN(tst_Window)
