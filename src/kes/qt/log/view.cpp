@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QResizeEvent>
 
 #include <memory>
 
@@ -35,6 +36,12 @@ void View::contextMenuEvent(QContextMenuEvent* event)
         menu->addAction(m_helpAction);
     }
     menu->exec(event->globalPos());
+}
+
+void View::resizeEvent(QResizeEvent* event)
+{
+    QTextEdit::resizeEvent(event);
+    ensureCursorVisible();
 }
 
 } // namespace kes::qt::log

@@ -7,6 +7,7 @@
 
 class QAction;
 class QContextMenuEvent;
+class QResizeEvent;
 
 namespace kes::qt::log {
 
@@ -28,6 +29,8 @@ public Q_SLOTS:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
+    /// Keeps the cursor in sight when the view changes size, as when a panel first comes up.
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QAction* m_helpAction = nullptr;
