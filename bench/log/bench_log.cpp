@@ -154,14 +154,14 @@ struct Fixture
 };
 Fixture* g_fixture = nullptr;
 
-void BM_Hub(benchmark::State& state)
+// Floods the hub once per iteration with \a post as the workers' way in.
+template <typename Post>
+void benchmarkFlood(benchmark::State& state, Post post)
 {
     Log& hub = *Log::singleton();
     double stall = 0;
     for (auto _ : state) {
-        const Flood flood = runFlood(hub, g_fixture->messages, [&hub](const QString& text) {
-            hub.postLog(text);
-        });
+        const Flood flood = runFlood(hub, g_fixture->messages, post);
         state.SetIterationTime(flood.seconds);
         stall = std::max(stall, flood.longestStallMs);
     }
@@ -170,22 +170,19 @@ void BM_Hub(benchmark::State& state)
     state.counters["max_stall_ms"] = stall;
 }
 
+void BM_Hub(benchmark::State& state)
+{
+    benchmarkFlood(state, [](const QString& text) { Log::singleton()->postLog(text); });
+}
+
 // The straightforward design, through the public event: every message its own posted event and
 // its own block, laid out by the shown view one at a time.
 void BM_PerEvent(benchmark::State& state)
 {
-    Log& hub = *Log::singleton();
-    double stall = 0;
-    for (auto _ : state) {
-        const Flood flood = runFlood(hub, g_fixture->messages, [&hub](const QString& text) {
-            QCoreApplication::postEvent(&hub, new Log::MessageReceivedEvent(Log::libraryTag, text));
-        });
-        state.SetIterationTime(flood.seconds);
-        stall = std::max(stall, flood.longestStallMs);
-    }
-    state.counters["msgs_per_s"] =
-        benchmark::Counter(double(messageCount), benchmark::Counter::kIsIterationInvariantRate);
-    state.counters["max_stall_ms"] = stall;
+    benchmarkFlood(state, [](const QString& text) {
+        QCoreApplication::postEvent(Log::singleton(),
+                                    new Log::MessageReceivedEvent(Log::libraryTag, text));
+    });
 }
 
 void BM_Bare(benchmark::State& state)
@@ -226,17 +223,12 @@ bool floodMatchesOneByOne(const QVector<QVector<QString>>& messages)
     return oneByOne.toHtml() == hub.toHtml() && oneByOne.blockCount() == hub.blockCount();
 }
 
-void setIfUnset(const char* name, const QByteArray& value)
-{
-    if (qEnvironmentVariableIsEmpty(name))
-        qputenv(name, value);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    setIfUnset("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const auto home = kes::test::makePrivateHome(QStringLiteral("kes-bench"));
     if (!home) {
         std::fprintf(stderr, "cannot create a temporary folder\n");

@@ -37,22 +37,13 @@ constexpr int dockHeight = 150;
 // What the threads of a vision cell log; every fourth message is the same, to show the dots.
 QString workerMessage(int worker, long long i)
 {
-    switch (i % 4) {
-    case 0:
-        return QStringLiteral("camera %1: frame %2 grabbed in %3 ms")
-            .arg(worker + 1)
-            .arg(i)
-            .arg(8.0 + double(i % 97) / 10.0, 0, 'f', 1);
-    case 1:
-        return QStringLiteral("scanner %1: %2 points, %3 outside the region")
-            .arg(worker + 1)
-            .arg(500 + i % 200)
-            .arg(i % 13);
-    case 2:
+    if (i % 4 == 2)
         return QStringLiteral("waiting for trigger");
-    default:
-        return QStringLiteral("part %1 %2").arg(i).arg(i % 29 == 0 ? "rejected" : "accepted");
-    }
+    if (i % 4 == 0)
+        return QStringLiteral("worker %1: image %2 inspected, %3 blobs").arg(worker + 1).arg(i).arg(i % 7);
+    if (i % 4 == 1)
+        return QStringLiteral("worker %1: conveyor at %2 mm/s").arg(worker + 1).arg(180 + i % 40);
+    return QStringLiteral("part %1 %2").arg(i).arg(i % 29 == 0 ? "rejected" : "accepted");
 }
 
 void postFromWorker(int worker, int ratePerSecond, const std::atomic<bool>& stop,
