@@ -1,9 +1,12 @@
 #include "aboutpage.h"
+#include "logpage.h"
 #include "mainwindow.h"
 #include "page.h"
 #include "screenshots.h"
 #include "translationpage.h"
 
+#include <kes/core/log.h>
+#include <kes/qt/log/log.h>
 #include <kes/qt/translation/manager.h>
 #include <kes/qt/translation/menu.h>
 #include <kes/qt/version.h>
@@ -34,7 +37,24 @@ void addPages(MainWindow& window)
 {
     window.addPage(new kes::gallery::AboutPage);
     window.addPage(new kes::gallery::TranslationPage);
+    window.addPage(new kes::gallery::LogPage(window));
 }
+
+// The log hub for the whole run; declared before the window, whose log panel shows it, so that it
+// goes after it.
+class LogHub
+{
+public:
+    LogHub() { kes::qt::log::Log::init(); }
+    ~LogHub()
+    {
+        // Nothing of the core library may reach the deleted hub.
+        kes::core::Log::singleton().setReceiver({});
+        kes::qt::log::Log::done();
+    }
+    LogHub(const LogHub&) = delete;
+    LogHub& operator=(const LogHub&) = delete;
+};
 
 bool hasOption(int argc, char** argv, std::initializer_list<const char*> names)
 {
@@ -206,6 +226,7 @@ int main(int argc, char** argv)
         }
     }
 
+    const LogHub logHub;
     MainWindow window;
     addPages(window);
     window.insertMenu(new kes::qt::translation::Menu);

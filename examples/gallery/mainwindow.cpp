@@ -158,6 +158,15 @@ QAction* MainWindow::insertMenu(QMenu* menu)
     return menuBar()->insertMenu(m_helpMenu->menuAction(), menu);
 }
 
+QMenu* MainWindow::viewMenu()
+{
+    if (!m_viewMenu) {
+        m_viewMenu = new QMenu(tr("&View"), menuBar());
+        menuBar()->insertMenu(m_helpMenu->menuAction(), m_viewMenu);
+    }
+    return m_viewMenu;
+}
+
 void MainWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
@@ -184,6 +193,9 @@ void MainWindow::retranslateUi()
     m_fileMenu->setTitle(tr("&File"));
     m_quitAction->setText(tr("&Quit"));
     m_helpMenu->setTitle(tr("&Help"));
+    if (m_viewMenu) {
+        m_viewMenu->setTitle(tr("&View"));
+    }
     m_aboutQtAction->setText(tr("About &Qt"));
     for (int row = 0; row < m_pages.size(); ++row) {
         Page* p = m_pages.at(row);

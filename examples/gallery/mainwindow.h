@@ -43,6 +43,9 @@ public:
 
     QMenu* fileMenu() const { return m_fileMenu; }
     QMenu* helpMenu() const { return m_helpMenu; }
+    /// The View menu, for the toggle actions of dock panels; put into the menu bar, before Help,
+    /// on the first call, so that it is not shown empty.
+    QMenu* viewMenu();
     /// Puts \a menu into the menu bar just before Help, which stays last, and reparents it to the
     /// menu bar. Returns the menu's action in the bar.
     QAction* insertMenu(QMenu* menu);
@@ -70,6 +73,7 @@ private:
 
     QMenu* m_fileMenu = nullptr;
     QMenu* m_helpMenu = nullptr;
+    QMenu* m_viewMenu = nullptr;
     QAction* m_quitAction = nullptr;
     QAction* m_aboutQtAction = nullptr;
 };

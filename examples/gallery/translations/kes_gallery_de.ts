@@ -57,6 +57,83 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::LogPage</name>
+    <message>
+        <source>&amp;Log window</source>
+        <translation>&amp;Protokollfenster</translation>
+    </message>
+    <message>
+        <source>The log hub</source>
+        <translation>Die Protokollzentrale</translation>
+    </message>
+    <message>
+        <source>Messages from every part of an application gather in one process-wide log and show in the log window docked below (View menu). Any thread may post; the GUI thread writes whatever has arrived in one go, so that a flood of messages never stalls it. The newest 100 lines are kept.</source>
+        <translation>Meldungen aus allen Teilen einer Anwendung laufen in einem prozessweiten Protokoll zusammen und erscheinen im unten angedockten Protokollfenster (Menü Ansicht). Jeder Thread darf Meldungen schicken; der GUI-Thread schreibt alles Angekommene in einem Zug, so dass ihn auch eine Flut von Meldungen nie aufhält. Die neuesten 100 Zeilen bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>From the GUI thread</source>
+        <translation>Aus dem GUI-Thread</translation>
+    </message>
+    <message>
+        <source>Empty line</source>
+        <translation>Leerzeile</translation>
+    </message>
+    <message>
+        <source>Log the same message again: instead of a new line, the last one gets a dot for every repeat.</source>
+        <translation>Dieselbe Meldung noch einmal protokollieren: Statt einer neuen Zeile erhält die letzte für jede Wiederholung einen Punkt.</translation>
+    </message>
+    <message>
+        <source>From worker threads</source>
+        <translation>Aus Arbeits-Threads</translation>
+    </message>
+    <message>
+        <source>Threads:</source>
+        <translation>Threads:</translation>
+    </message>
+    <message>
+        <source>Messages per second and thread:</source>
+        <translation>Meldungen pro Sekunde und Thread:</translation>
+    </message>
+    <message>
+        <source>Redirected stream and core library</source>
+        <translation>Umgeleiteter Stream und Kernbibliothek</translation>
+    </message>
+    <message>
+        <source>Write to std::cout</source>
+        <translation>Nach std::cout schreiben</translation>
+    </message>
+    <message>
+        <source>Log through the core library</source>
+        <translation>Über die Kernbibliothek protokollieren</translation>
+    </message>
+    <message>
+        <source>std::cout is taken over while the button writes three lines and an unfinished one, which is posted when the stream gets its buffer back; its bytes are read as Latin-1. The core library&apos;s log is called from a worker thread, in UTF-8.</source>
+        <translation>std::cout wird übernommen, während die Schaltfläche drei Zeilen und eine unvollständige schreibt, die geschickt wird, wenn der Stream seinen Puffer zurückbekommt; seine Bytes werden als Latin-1 gelesen. Das Protokoll der Kernbibliothek wird aus einem Arbeits-Thread aufgerufen, in UTF-8.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>%1 messages posted</source>
+        <translation>%1 Meldungen geschickt</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <comment>page list entry</comment>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <comment>button that writes the message</comment>
+        <translation>Protokollieren</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::MainWindow</name>
     <message>
         <source>libkes_qt gallery</source>
@@ -77,6 +154,10 @@
     <message>
         <source>About &amp;Qt</source>
         <translation>Über &amp;Qt</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
     </message>
 </context>
 <context>

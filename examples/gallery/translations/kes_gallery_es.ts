@@ -57,6 +57,83 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::LogPage</name>
+    <message>
+        <source>&amp;Log window</source>
+        <translation>Ventana de &amp;registro</translation>
+    </message>
+    <message>
+        <source>The log hub</source>
+        <translation>El concentrador de registro</translation>
+    </message>
+    <message>
+        <source>Messages from every part of an application gather in one process-wide log and show in the log window docked below (View menu). Any thread may post; the GUI thread writes whatever has arrived in one go, so that a flood of messages never stalls it. The newest 100 lines are kept.</source>
+        <translation>Los mensajes de todas las partes de una aplicación se reúnen en un único registro del proceso y se muestran en la ventana de registro acoplada abajo (menú Ver). Cualquier hilo puede enviar mensajes; el hilo de la interfaz escribe de una vez todo lo que ha llegado, de modo que una avalancha de mensajes nunca lo bloquea. Se conservan las 100 líneas más recientes.</translation>
+    </message>
+    <message>
+        <source>From the GUI thread</source>
+        <translation>Desde el hilo de la interfaz</translation>
+    </message>
+    <message>
+        <source>Empty line</source>
+        <translation>Línea vacía</translation>
+    </message>
+    <message>
+        <source>Log the same message again: instead of a new line, the last one gets a dot for every repeat.</source>
+        <translation>Registre el mismo mensaje otra vez: en lugar de una línea nueva, la última recibe un punto por cada repetición.</translation>
+    </message>
+    <message>
+        <source>From worker threads</source>
+        <translation>Desde hilos de trabajo</translation>
+    </message>
+    <message>
+        <source>Threads:</source>
+        <translation>Hilos:</translation>
+    </message>
+    <message>
+        <source>Messages per second and thread:</source>
+        <translation>Mensajes por segundo y por hilo:</translation>
+    </message>
+    <message>
+        <source>Redirected stream and core library</source>
+        <translation>Flujo redirigido y biblioteca base</translation>
+    </message>
+    <message>
+        <source>Write to std::cout</source>
+        <translation>Escribir en std::cout</translation>
+    </message>
+    <message>
+        <source>Log through the core library</source>
+        <translation>Registrar mediante la biblioteca base</translation>
+    </message>
+    <message>
+        <source>std::cout is taken over while the button writes three lines and an unfinished one, which is posted when the stream gets its buffer back; its bytes are read as Latin-1. The core library&apos;s log is called from a worker thread, in UTF-8.</source>
+        <translation>std::cout queda tomado mientras el botón escribe tres líneas y una inacabada, que se envía cuando el flujo recupera su búfer; sus bytes se leen como Latin-1. El registro de la biblioteca base se llama desde un hilo de trabajo, en UTF-8.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>%1 messages posted</source>
+        <translation>%1 mensajes enviados</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <comment>page list entry</comment>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <comment>button that writes the message</comment>
+        <translation>Registrar</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::MainWindow</name>
     <message>
         <source>libkes_qt gallery</source>
@@ -77,6 +154,10 @@
     <message>
         <source>About &amp;Qt</source>
         <translation>Acerca de &amp;Qt</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,83 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::LogPage</name>
+    <message>
+        <source>&amp;Log window</source>
+        <translation>Fenêtre du &amp;journal</translation>
+    </message>
+    <message>
+        <source>The log hub</source>
+        <translation>Le concentrateur de journal</translation>
+    </message>
+    <message>
+        <source>Messages from every part of an application gather in one process-wide log and show in the log window docked below (View menu). Any thread may post; the GUI thread writes whatever has arrived in one go, so that a flood of messages never stalls it. The newest 100 lines are kept.</source>
+        <translation>Les messages de toutes les parties d&apos;une application se rassemblent dans un journal unique du processus et s&apos;affichent dans la fenêtre du journal ancrée en bas (menu Affichage). Tout thread peut envoyer des messages&#xa0;; le thread de l&apos;interface écrit d&apos;un seul coup tout ce qui est arrivé, si bien qu&apos;un flot de messages ne le bloque jamais. Les 100 lignes les plus récentes sont conservées.</translation>
+    </message>
+    <message>
+        <source>From the GUI thread</source>
+        <translation>Depuis le thread de l&apos;interface</translation>
+    </message>
+    <message>
+        <source>Empty line</source>
+        <translation>Ligne vide</translation>
+    </message>
+    <message>
+        <source>Log the same message again: instead of a new line, the last one gets a dot for every repeat.</source>
+        <translation>Journalisez le même message encore une fois&#xa0;: au lieu d&apos;une nouvelle ligne, la dernière reçoit un point par répétition.</translation>
+    </message>
+    <message>
+        <source>From worker threads</source>
+        <translation>Depuis des threads de travail</translation>
+    </message>
+    <message>
+        <source>Threads:</source>
+        <translation>Threads&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Messages per second and thread:</source>
+        <translation>Messages par seconde et par thread&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Redirected stream and core library</source>
+        <translation>Flux redirigé et bibliothèque de base</translation>
+    </message>
+    <message>
+        <source>Write to std::cout</source>
+        <translation>Écrire dans std::cout</translation>
+    </message>
+    <message>
+        <source>Log through the core library</source>
+        <translation>Journaliser par la bibliothèque de base</translation>
+    </message>
+    <message>
+        <source>std::cout is taken over while the button writes three lines and an unfinished one, which is posted when the stream gets its buffer back; its bytes are read as Latin-1. The core library&apos;s log is called from a worker thread, in UTF-8.</source>
+        <translation>std::cout est repris pendant que le bouton écrit trois lignes et une ligne inachevée, envoyée quand le flux retrouve son tampon&#xa0;; ses octets sont lus en Latin-1. Le journal de la bibliothèque de base est appelé depuis un thread de travail, en UTF-8.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>%1 messages posted</source>
+        <translation>%1 messages envoyés</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <comment>page list entry</comment>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <comment>button that writes the message</comment>
+        <translation>Journaliser</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::MainWindow</name>
     <message>
         <source>libkes_qt gallery</source>
@@ -77,6 +154,10 @@
     <message>
         <source>About &amp;Qt</source>
         <translation>À propos de &amp;Qt</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
     </message>
 </context>
 <context>

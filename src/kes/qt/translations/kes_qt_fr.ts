@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>kes::qt::log::Window</name>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::translation::Menu</name>
     <message>
         <source>&amp;Languages</source>

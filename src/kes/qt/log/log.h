@@ -1,0 +1,108 @@
+#ifndef KES_QT_LOG_LOG_H
+#define KES_QT_LOG_LOG_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QEvent>
+#include <QMutex>
+#include <QString>
+#include <QStringList>
+#include <QTextDocument>
+
+#include <atomic>
+#include <string>
+
+namespace kes::qt::log {
+
+/// The process-wide log of a GUI application, and the document the log window shows: every
+/// message is one line (text block), and only the newest 100 lines are kept.
+///
+/// Messages come from direct log() calls on the GUI thread, from the core library's log
+/// (kes::core::Log) once the hub is its receiver, and from streams taken over by an
+/// OStreamRedirector. With repeats off, a message equal to the previous one adds a "." to that
+/// line instead of a new line.
+///
+/// postLog(), postEmptyLine() and logMessageReceiver() may be called from any thread and never wait
+/// for the GUI: the message joins a short queue under a lock that only ever guards appending and
+/// taking the queue, and a MessageReceivedEvent is posted when the queue was empty. customEvent()
+/// then writes everything queued in one edit of the document, with exactly the lines, dots and
+/// order that writing the messages one by one would give. Messages posted through postLog() are
+/// written in posting order; a MessageReceivedEvent posted directly by the application is written
+/// when the event loop delivers it.
+///
+/// The application calls init() once after creating its QApplication, and done() at shutdown,
+/// after the log windows and redirectors are gone.
+class KES_QT_EXPORT Log : public QTextDocument
+{
+    Q_OBJECT
+
+public:
+    /// A message handed to the hub's thread. Type 1000 (QEvent::User); the tag travels along and is
+    /// not read by the hub (the library's own messages carry 255).
+    class KES_QT_EXPORT MessageReceivedEvent : public QEvent
+    {
+    public:
+        static constexpr QEvent::Type messageReceivedType = QEvent::User;
+
+        MessageReceivedEvent(int tag, const QString& message);
+        ~MessageReceivedEvent() override;
+
+        int tag;
+        QString message;
+
+    private:
+        friend class Log;
+        // Set on the events postLog() posts: they stand for the whole queue, message included.
+        bool m_drainsQueue = false;
+    };
+
+    /// The tag of every message the library posts itself.
+    static constexpr int libraryTag = 255;
+
+    /// Repeats off, not registered with the core log.
+    Log();
+    /// With \a registerReceiver, becomes the receiver of kes::core::Log::singleton(); the core
+    /// library must not log any more once this hub is deleted.
+    Log(bool registerReceiver, bool allowRepeats);
+    ~Log() override;
+
+    /// Creates the hub, registered with the core log, as singleton(). A second call replaces the
+    /// pointer and leaves the earlier hub alive (and, as the core log's receiver, replaced).
+    static void init(bool allowRepeats = false);
+    /// Deletes the singleton hub, if any. The core log keeps its receiver, bound to the deleted hub.
+    static void done();
+    /// The hub created by init(); null before init() and after done(). Any thread.
+    static Log* singleton();
+
+    /// GUI thread only.
+    void log(const QString& text);
+    /// GUI thread only; the same lines as log() of each string in order, in one edit.
+    void log(const QStringList& list);
+    /// GUI thread only.
+    void insertEmptyLine();
+
+    /// Any thread.
+    void postLog(const QString& text, int tag = libraryTag);
+    /// Any thread.
+    void postEmptyLine();
+    /// The core library's receiver: \a text is UTF-8. Any thread.
+    void logMessageReceiver(const std::string& text);
+
+protected:
+    void customEvent(QEvent* event) override;
+
+private:
+    void writeLines(const QStringList& messages);
+
+    static std::atomic<Log*> _impl;
+
+    QString m_lastMessage;
+    bool m_allowRepeats = false;
+
+    QMutex m_queueMutex;
+    QStringList m_queue;
+};
+
+} // namespace kes::qt::log
+
+#endif
