@@ -1,6 +1,7 @@
 #include <kes/qt/discreteapproximator/model.h>
 
 #include "kestest.h"
+#include "pointstext.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -11,27 +12,6 @@
 using kes::core::PointF;
 using kes::qt::discreteapproximator::Model;
 using Points = Model::Points;
-
-Q_DECLARE_METATYPE(PointF)
-Q_DECLARE_METATYPE(Points)
-
-namespace kes::core {
-
-// Found by QCOMPARE for its failure messages.
-char* toString(const PointF& p)
-{
-    return QTest::toString(QStringLiteral("(%1, %2)").arg(p.x, 0, 'g', 17).arg(p.y, 0, 'g', 17));
-}
-
-char* toString(const Points& points)
-{
-    QStringList texts;
-    for (const PointF& p : points)
-        texts << QStringLiteral("(%1, %2)").arg(p.x).arg(p.y);
-    return QTest::toString(texts.join(QLatin1Char(' ')));
-}
-
-} // namespace kes::core
 
 namespace {
 
