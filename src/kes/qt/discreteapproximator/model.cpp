@@ -1,10 +1,11 @@
 #include <kes/qt/discreteapproximator/model.h>
 
+#include <kes/qt/discreteapproximator/view.h>
+
 #include <QRegularExpression>
 #include <QStringList>
 
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace kes::qt::discreteapproximator {
@@ -12,10 +13,6 @@ namespace kes::qt::discreteapproximator {
 using kes::core::PointF;
 
 namespace {
-
-// The range of a signed 32-bit integer: the values the applications store their curves in.
-constexpr double defaultMinimum = std::numeric_limits<int>::min();
-constexpr double defaultMaximum = std::numeric_limits<int>::max();
 
 // A one-point list has no step to repeat.
 constexpr double singlePointStep = 25.0;
@@ -25,10 +22,10 @@ constexpr double singlePointStep = 25.0;
 Model::Model(QObject* parent)
     : QAbstractTableModel(parent)
     , m_points(createDefaultData())
-    , m_xMin(defaultMinimum)
-    , m_xMax(defaultMaximum)
-    , m_yMin(defaultMinimum)
-    , m_yMax(defaultMaximum)
+    , m_xMin(View::absoluteMinimum())
+    , m_xMax(View::absoluteMaximum())
+    , m_yMin(View::absoluteMinimum())
+    , m_yMax(View::absoluteMaximum())
 {
 }
 
