@@ -1,4 +1,5 @@
 #include "aboutpage.h"
+#include "curveeditorpage.h"
 #include "mainwindow.h"
 #include "page.h"
 #include "screenshots.h"
@@ -34,6 +35,7 @@ void addPages(MainWindow& window)
 {
     window.addPage(new kes::gallery::AboutPage);
     window.addPage(new kes::gallery::TranslationPage);
+    window.addPage(new kes::gallery::CurveEditorPage);
 }
 
 bool hasOption(int argc, char** argv, std::initializer_list<const char*> names)
