@@ -35,6 +35,7 @@ public:
     void setXAxisText(const QString& text);
     void setYAxisText(const QString& text);
 
+    Model* schematic() const { return m_scene; }
     QString rangeText(RangeLabel label) const;
     QString xAxisText() const;
     QString yAxisText() const;

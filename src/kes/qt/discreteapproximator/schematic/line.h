@@ -16,6 +16,8 @@ public:
     explicit Line(Model* scene, QGraphicsItem* parent = nullptr);
     ~Line() override;
 
+    Model* schematic() const { return m_scene; }
+
 private:
     Model* m_scene;
 };
