@@ -53,6 +53,25 @@ void verifyLayout(const Scene& scene)
     }
 }
 
+// The graph of fivePoints in a view of 400 x 300 pixels.
+struct Graph
+{
+    Graph()
+    {
+        model.setData(fivePoints);
+        view.resize(400, 300);
+    }
+    bool show()
+    {
+        view.show();
+        return QTest::qWaitForWindowExposed(&view);
+    }
+
+    Model model;
+    Scene schematic{&model};
+    View view{&schematic};
+};
+
 QStringList rangeTexts(const Scene& scene)
 {
     QStringList texts;
@@ -295,13 +314,11 @@ void tst_Schematic::dragMovesPointAndRefusesCrossingNeighbour()
 {
     QFETCH(QPoint, offset);
 
-    Model model;
-    model.setData(fivePoints);
-    Scene schematic(&model);
-    View view(&schematic);
-    view.resize(400, 300);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    Graph graph;
+    QVERIFY(graph.show());
+    Model& model = graph.model;
+    Scene& schematic = graph.schematic;
+    View& view = graph.view;
     QCOMPARE(schematic.sceneRect(), QRectF(0, 0, 400, 300));
     const QStringList rangeBefore = rangeTexts(schematic);
 
@@ -328,13 +345,11 @@ void tst_Schematic::dragMovesPointAndRefusesCrossingNeighbour()
 
 void tst_Schematic::rightClickOnEmptySpaceInsertsPoint()
 {
-    Model model;
-    model.setData(fivePoints);
-    Scene schematic(&model);
-    View view(&schematic);
-    view.resize(400, 300);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    Graph graph;
+    QVERIFY(graph.show());
+    Model& model = graph.model;
+    Scene& schematic = graph.schematic;
+    View& view = graph.view;
 
     QStringList entries;
     kes::test::whenMenuOpens([&entries](QMenu* menu) {
@@ -353,13 +368,11 @@ void tst_Schematic::rightClickOnEmptySpaceInsertsPoint()
 
 void tst_Schematic::rightClickOnPointOffersPointEntries()
 {
-    Model model;
-    model.setData(fivePoints);
-    Scene schematic(&model);
-    View view(&schematic);
-    view.resize(400, 300);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    Graph graph;
+    QVERIFY(graph.show());
+    Model& model = graph.model;
+    Scene& schematic = graph.schematic;
+    View& view = graph.view;
 
     QStringList entries;
     kes::test::whenMenuOpens([&entries](QMenu* menu) {

@@ -38,6 +38,24 @@ QPoint cellCentre(const TableView& view, int row, int column)
     return view.visualRect(view.model()->index(row, column)).center();
 }
 
+// A table of threePoints on screen.
+struct Table
+{
+    Table()
+    {
+        model.setData(threePoints);
+        view.resize(300, 300);
+    }
+    bool show()
+    {
+        view.show();
+        return QTest::qWaitForWindowExposed(&view);
+    }
+
+    Model model;
+    TableView view{&model};
+};
+
 } // namespace
 
 class tst_TableView : public QObject
@@ -82,11 +100,10 @@ void tst_TableView::storesTypedText()
     QFETCH(int, column);
     QFETCH(QString, typed);
 
-    Model model;
-    model.setData(threePoints);
-    TableView view(&model);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    Table table;
+    QVERIFY(table.show());
+    Model& model = table.model;
+    TableView& view = table.view;
 
     const QModelIndex cell = model.index(1, column);
     view.setCurrentIndex(cell);
@@ -228,12 +245,10 @@ void tst_TableView::rightClickOpensMenuForRowUnderCursor()
     QFETCH(bool, onRow);
 
     QGuiApplication::clipboard()->setText(QStringLiteral("1 1"));
-    Model model;
-    model.setData(threePoints);
-    TableView view(&model);
-    view.resize(300, 300);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    Table table;
+    QVERIFY(table.show());
+    Model& model = table.model;
+    TableView& view = table.view;
 
     QStringList entries;
     kes::test::whenMenuOpens([&entries](QMenu* menu) {
@@ -250,12 +265,10 @@ void tst_TableView::rightClickOpensMenuForRowUnderCursor()
 
 void tst_TableView::clickSelectsPointAndInsertionMovesCurrentCell()
 {
-    Model model;
-    model.setData(threePoints);
-    TableView view(&model);
-    view.resize(300, 300);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    Table table;
+    QVERIFY(table.show());
+    Model& model = table.model;
+    TableView& view = table.view;
     QCOMPARE(view.verticalHeader()->model()->headerData(0, Qt::Vertical).toString(),
              QStringLiteral("0"));
 
