@@ -11,7 +11,9 @@
 #include "pointstext.h"
 #include "popupmenu.h"
 
+#include <QClipboard>
 #include <QGraphicsSimpleTextItem>
+#include <QGuiApplication>
 #include <QtTest>
 
 using kes::core::PointF;
@@ -100,8 +102,8 @@ private Q_SLOTS:
     void followsSelection();
     void dragMovesPointAndRefusesCrossingNeighbour_data();
     void dragMovesPointAndRefusesCrossingNeighbour();
-    void rightClickOnEmptySpaceInsertsPoint();
-    void rightClickOnPointOffersPointEntries();
+    void rightClickOffersEntriesForPlace_data();
+    void rightClickOffersEntriesForPlace();
 };
 
 void tst_Schematic::mapsCoordinatesBothWays_data()
@@ -343,48 +345,47 @@ void tst_Schematic::dragMovesPointAndRefusesCrossingNeighbour()
     verifyLayout(schematic);
 }
 
-void tst_Schematic::rightClickOnEmptySpaceInsertsPoint()
+void tst_Schematic::rightClickOffersEntriesForPlace_data()
 {
-    Graph graph;
-    QVERIFY(graph.show());
-    Model& model = graph.model;
-    Scene& schematic = graph.schematic;
-    View& view = graph.view;
+    QTest::addColumn<QPointF>("place");
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<Points>("points");
+    QTest::addColumn<int>("selected");
 
-    QStringList entries;
-    kes::test::whenMenuOpens([&entries](QMenu* menu) {
-        entries = kes::test::menuEntries(menu);
-        kes::test::triggerEntry(menu, QStringLiteral("Insert point"));
-    });
-    // Data (2.6, 4.0).
-    QTest::mouseClick(view.viewport(), Qt::RightButton, {}, QPoint(245, 224));
-    QTRY_VERIFY(!entries.isEmpty());
-    QCOMPARE(entries, (QStringList{"Insert point", "-", "Import from clipboard (off)",
-                                   "Export to clipboard"}));
-    QCOMPARE(model.rowCount(), 6);
-    QCOMPARE(model.points()[3], (PointF{2.6, 4.0}));
-    verifyLayout(schematic);
+    const QStringList listEntries{"Import from clipboard (off)", "Export to clipboard"};
+    // Data (2.6, 4.0): the new point goes where the click was.
+    QTest::newRow("empty space") << QPointF(245.0, 224.0) << "Insert point"
+                                 << QStringList{"Insert point", "-"} + listEntries
+                                 << Points{{0.0, 0.0}, {1.0, 5.0}, {2.0, 20.0}, {2.6, 4.0},
+                                           {3.0, 10.0}, {4.0, 15.0}}
+                                 << -1;
+    QTest::newRow("point 3") << QPointF(275.0, 155.0) << "Remove point"
+                             << QStringList{"Insert point before", "Insert point after",
+                                            "Remove point", "-"} + listEntries
+                             << Points{{0.0, 0.0}, {1.0, 5.0}, {2.0, 20.0}, {4.0, 15.0}} << 3;
 }
 
-void tst_Schematic::rightClickOnPointOffersPointEntries()
+void tst_Schematic::rightClickOffersEntriesForPlace()
 {
+    QFETCH(QPointF, place);
+    QFETCH(QString, entry);
+
+    QGuiApplication::clipboard()->clear();
     Graph graph;
     QVERIFY(graph.show());
-    Model& model = graph.model;
-    Scene& schematic = graph.schematic;
-    View& view = graph.view;
 
     QStringList entries;
-    kes::test::whenMenuOpens([&entries](QMenu* menu) {
+    kes::test::whenMenuOpens([&entries, entry](QMenu* menu) {
         entries = kes::test::menuEntries(menu);
-        kes::test::triggerEntry(menu, QStringLiteral("Remove point"));
+        kes::test::triggerEntry(menu, entry);
     });
-    QTest::mouseClick(view.viewport(), Qt::RightButton, {}, view.mapFromScene(275.0, 155.0));
+    QTest::mouseClick(graph.view.viewport(), Qt::RightButton, {}, graph.view.mapFromScene(place));
     QTRY_VERIFY(!entries.isEmpty());
-    QCOMPARE(entries.first(), QStringLiteral("Insert point before"));
-    QCOMPARE(model.selectedRow(), 3);
-    QCOMPARE(model.points(), (Points{{0.0, 0.0}, {1.0, 5.0}, {2.0, 20.0}, {4.0, 15.0}}));
-    verifyLayout(schematic);
+    QTEST(entries, "entries");
+    QTEST(graph.model.points(), "points");
+    QTEST(graph.model.selectedRow(), "selected");
+    verifyLayout(graph.schematic);
 }
 
 KES_TEST_MAIN(tst_Schematic)
