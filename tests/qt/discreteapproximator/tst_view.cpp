@@ -39,6 +39,7 @@ private Q_SLOTS:
     void emitsDataChangedOnlyOnRealChanges();
     void handedOutDataUnaffectedByLaterEdits();
     void passesSettingsToItsParts();
+    void dragInGraphTabChangesData();
     void retitlesTabsOnLanguageChange_data();
     void retitlesTabsOnLanguageChange();
 };
@@ -159,6 +160,32 @@ void tst_View::passesSettingsToItsParts()
     ContextMenu menu(-1, &model);
     menu.init();
     QCOMPARE(menu.actions().last(), &help);
+}
+
+void tst_View::dragInGraphTabChangesData()
+{
+    View view;
+    view.setData(Points{{0.0, 0.0}, {1.0, 1.0}, {2.0, 0.5}});
+    view.resize(500, 400);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QSignalSpy changed(&view, SIGNAL(dataChanged()));
+
+    // Point 1 sits at the top of the plotting area, half way across.
+    const auto* graph = view.graphicsView();
+    const QPointF point = graph->schematic()->toSceneCoords(PointF{1.0, 1.0});
+    QWindow* window = view.windowHandle();
+    const QPoint start = graph->viewport()->mapTo(&view, graph->mapFromScene(point));
+    QTest::mousePress(window, Qt::LeftButton, {}, start);
+    QTest::mouseMove(window, start + QPoint(0, 40));
+    QTest::mouseRelease(window, Qt::LeftButton, {}, start + QPoint(0, 40));
+
+    QVERIFY(changed.count() >= 1);
+    const Points data = view.data();
+    QCOMPARE(data[1].x, 1.0);
+    QVERIFY(data[1].y < 1.0);
+    QCOMPARE(view.tableView()->model()->data(view.model()->index(1, 1)).toString(),
+             QString::number(data[1].y, 'g', 7));
 }
 
 void tst_View::retitlesTabsOnLanguageChange_data()

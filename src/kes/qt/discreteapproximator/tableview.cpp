@@ -4,6 +4,7 @@
 #include <kes/qt/discreteapproximator/delegate.h>
 #include <kes/qt/discreteapproximator/model.h>
 
+#include <QHeaderView>
 #include <QMouseEvent>
 
 namespace kes::qt::discreteapproximator {
@@ -14,6 +15,8 @@ TableView::TableView(Model* model, QWidget* parent)
 {
     setItemDelegate(new Delegate(model, this));
     setModel(model);
+    // Two columns of numbers share the width, however wide the editor is.
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     connect(this, SIGNAL(clicked(const QModelIndex&)), this, SLOT(on_clicked(const QModelIndex&)));
     connect(model, SIGNAL(selectedPointChanged(const QModelIndex&)), this,
             SLOT(on_selectedPointChanged(const QModelIndex&)));
