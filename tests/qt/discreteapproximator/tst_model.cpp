@@ -242,6 +242,9 @@ void tst_Model::insertsAtDataPosition_data()
     QTest::newRow("before the first") << PointF{-4.0, 1.0} << 0 << PointF{-4.0, 1.0};
     QTest::newRow("after the last") << PointF{4.5, 30.0} << 3 << PointF{4.5, 30.0};
     QTest::newRow("y beyond its limit") << PointF{1.5, 60.0} << 2 << PointF{1.5, 20.0};
+    QTest::newRow("exactly the generated point") << PointF{3.0, 20.0} << 3 << PointF{3.0, 20.0};
+    QTest::newRow("neither coordinate admissible")
+        << PointF{9.0, 99.0} << 3 << PointF{3.0, 20.0};
 }
 
 void tst_Model::insertsAtDataPosition()
@@ -273,8 +276,9 @@ void tst_Model::removesDownToNoPoints()
     QCOMPARE(changed.count(), 2);
     QCOMPARE(model.toString(), QString());
 
-    model.insertPoint(PointF{4.0, 5.0});
-    QCOMPARE(model.points(), (Points{{4.0, 5.0}}));
+    model.insertPoint(PointF{0.0, 0.0});
+    QCOMPARE(model.points(), (Points{{0.0, 0.0}}));
+    QCOMPARE(changed.count(), 3);
 }
 
 void tst_Model::ignoresRowsOutOfRange()

@@ -217,8 +217,11 @@ void Model::insertPoint(const PointF& p)
             break;
         }
     }
-    insertPointBefore_i(row);
-    movePoint(row, p);
+    if (!insertPointBefore_i(row))
+        return;
+    // One signal whether or not the move is taken: the new row alone is a change.
+    movePoint_i(row, p);
+    Q_EMIT modelDataChanged();
 }
 
 void Model::removePoint(int row)

@@ -69,7 +69,8 @@ public:
     /// was derived from. A one-point list steps by 25.0. False for a row out of range.
     bool insertPointBefore_i(int row);
     /// Inserts a point behind every point whose x is not greater than p.x and moves it to \a p
-    /// through the validated path.
+    /// through the validated path; a refused coordinate keeps the generated value. Emits
+    /// modelDataChanged() once.
     void insertPoint(const kes::core::PointF& p);
 
     void removePoint(int row);
