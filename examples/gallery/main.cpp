@@ -1,4 +1,5 @@
 #include "aboutpage.h"
+#include "curveeditorpage.h"
 #include "logpage.h"
 #include "mainwindow.h"
 #include "page.h"
@@ -38,6 +39,7 @@ void addPages(MainWindow& window)
     window.addPage(new kes::gallery::AboutPage);
     window.addPage(new kes::gallery::TranslationPage);
     window.addPage(new kes::gallery::LogPage(window));
+    window.addPage(new kes::gallery::CurveEditorPage);
 }
 
 // The log hub for the whole run; declared before the window, whose log panel shows it, so that it

@@ -57,6 +57,49 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::CurveEditorPage</name>
+    <message>
+        <source>Curve editor</source>
+        <translation>Kennlinien-Editor</translation>
+    </message>
+    <message>
+        <source>Characteristic of a proportional valve</source>
+        <translation>Kennlinie eines Proportionalventils</translation>
+    </message>
+    <message>
+        <source>The opening of a valve over its control voltage, as a table of points joined by straight lines. Drag a point in the graph, or edit it in the table; a right click inserts and removes points and exchanges the whole list with the clipboard as lines of x and y.</source>
+        <translation>Die Öffnung eines Ventils über seiner Steuerspannung, als Tabelle von Punkten, die durch Geraden verbunden sind. Ziehen Sie einen Punkt in der Grafik oder bearbeiten Sie ihn in der Tabelle; ein Rechtsklick fügt Punkte ein, entfernt sie und tauscht die ganze Liste als Zeilen aus x und y mit der Zwischenablage aus.</translation>
+    </message>
+    <message>
+        <source>Admissible: %1 to %2 V, %3 to %4 %. A point cannot pass its neighbours in x; a refused coordinate keeps its value.</source>
+        <translation>Zulässig: %1 bis %2 V, %3 bis %4 %. Ein Punkt kann seine Nachbarn in x nicht überholen; eine abgelehnte Koordinate behält ihren Wert.</translation>
+    </message>
+    <message>
+        <source>U [V]</source>
+        <translation>U [V]</translation>
+    </message>
+    <message>
+        <source>Opening [%]</source>
+        <translation>Öffnung [%]</translation>
+    </message>
+    <message>
+        <source>Operating point:</source>
+        <translation>Arbeitspunkt:</translation>
+    </message>
+    <message>
+        <source>Point list received</source>
+        <translation>Empfangene Punktliste</translation>
+    </message>
+    <message>
+        <source>%1 V → %2 %</source>
+        <translation>%1 V → %2 %</translation>
+    </message>
+    <message>
+        <source>dataChanged() received: %1</source>
+        <translation>dataChanged() empfangen: %1</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::LogPage</name>
     <message>
         <source>&amp;Log window</source>

@@ -57,6 +57,49 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::CurveEditorPage</name>
+    <message>
+        <source>Curve editor</source>
+        <translation>Editor de curvas</translation>
+    </message>
+    <message>
+        <source>Characteristic of a proportional valve</source>
+        <translation>Característica de una válvula proporcional</translation>
+    </message>
+    <message>
+        <source>The opening of a valve over its control voltage, as a table of points joined by straight lines. Drag a point in the graph, or edit it in the table; a right click inserts and removes points and exchanges the whole list with the clipboard as lines of x and y.</source>
+        <translation>La apertura de una válvula según su tensión de control, como una tabla de puntos unidos por rectas. Arrastre un punto en el gráfico o edítelo en la tabla; un clic derecho inserta y elimina puntos e intercambia toda la lista con el portapapeles como líneas de x e y.</translation>
+    </message>
+    <message>
+        <source>Admissible: %1 to %2 V, %3 to %4 %. A point cannot pass its neighbours in x; a refused coordinate keeps its value.</source>
+        <translation>Admisible: de %1 a %2 V, de %3 a %4 %. Un punto no puede pasar a sus vecinos en x; una coordenada rechazada conserva su valor.</translation>
+    </message>
+    <message>
+        <source>U [V]</source>
+        <translation>U [V]</translation>
+    </message>
+    <message>
+        <source>Opening [%]</source>
+        <translation>Apertura [%]</translation>
+    </message>
+    <message>
+        <source>Operating point:</source>
+        <translation>Punto de trabajo:</translation>
+    </message>
+    <message>
+        <source>Point list received</source>
+        <translation>Lista de puntos recibida</translation>
+    </message>
+    <message>
+        <source>%1 V → %2 %</source>
+        <translation>%1 V → %2 %</translation>
+    </message>
+    <message>
+        <source>dataChanged() received: %1</source>
+        <translation>dataChanged() recibidos: %1</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::LogPage</name>
     <message>
         <source>&amp;Log window</source>

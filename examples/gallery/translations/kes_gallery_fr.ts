@@ -57,6 +57,49 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::CurveEditorPage</name>
+    <message>
+        <source>Curve editor</source>
+        <translation>Éditeur de courbe</translation>
+    </message>
+    <message>
+        <source>Characteristic of a proportional valve</source>
+        <translation>Caractéristique d’une valve proportionnelle</translation>
+    </message>
+    <message>
+        <source>The opening of a valve over its control voltage, as a table of points joined by straight lines. Drag a point in the graph, or edit it in the table; a right click inserts and removes points and exchanges the whole list with the clipboard as lines of x and y.</source>
+        <translation>L’ouverture d’une valve en fonction de sa tension de commande, sous forme d’un tableau de points reliés par des segments. Faites glisser un point dans le graphique ou modifiez-le dans le tableau ; un clic droit insère et supprime des points et échange toute la liste avec le presse-papiers sous forme de lignes x et y.</translation>
+    </message>
+    <message>
+        <source>Admissible: %1 to %2 V, %3 to %4 %. A point cannot pass its neighbours in x; a refused coordinate keeps its value.</source>
+        <translation>Admissible : %1 à %2 V, %3 à %4 %. Un point ne peut pas dépasser ses voisins en x ; une coordonnée refusée garde sa valeur.</translation>
+    </message>
+    <message>
+        <source>U [V]</source>
+        <translation>U [V]</translation>
+    </message>
+    <message>
+        <source>Opening [%]</source>
+        <translation>Ouverture [%]</translation>
+    </message>
+    <message>
+        <source>Operating point:</source>
+        <translation>Point de fonctionnement :</translation>
+    </message>
+    <message>
+        <source>Point list received</source>
+        <translation>Liste de points reçue</translation>
+    </message>
+    <message>
+        <source>%1 V → %2 %</source>
+        <translation>%1 V → %2 %</translation>
+    </message>
+    <message>
+        <source>dataChanged() received: %1</source>
+        <translation>dataChanged() reçus : %1</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::LogPage</name>
     <message>
         <source>&amp;Log window</source>

@@ -1,0 +1,42 @@
+#ifndef KES_QT_DISCRETEAPPROXIMATOR_DELEGATE_H
+#define KES_QT_DISCRETEAPPROXIMATOR_DELEGATE_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QItemDelegate>
+
+class QDoubleValidator;
+
+namespace kes::qt::discreteapproximator {
+
+class Model;
+
+/// Edits a point coordinate as free text in a line edit: the model's validation decides, so a
+/// refused value simply leaves the cell as it was. A comma is taken for a decimal point.
+class KES_QT_EXPORT Delegate : public QItemDelegate
+{
+    Q_OBJECT
+
+public:
+    /// \a model is not owned.
+    explicit Delegate(Model* model, QObject* parent = nullptr);
+    ~Delegate() override;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    /// The coordinate with 6 significant digits, one fewer than the table shows.
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override;
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const override;
+
+private:
+    Model* m_model;
+    // Deliberately never attached to an editor: any text may be typed, the model judges it.
+    QDoubleValidator* m_validator;
+};
+
+} // namespace kes::qt::discreteapproximator
+
+#endif

@@ -1,0 +1,314 @@
+#include <kes/qt/discreteapproximator/model.h>
+
+#include <kes/qt/discreteapproximator/view.h>
+
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <cmath>
+#include <utility>
+
+namespace kes::qt::discreteapproximator {
+
+using kes::core::PointF;
+
+namespace {
+
+// A one-point list has no step to repeat.
+constexpr double singlePointStep = 25.0;
+
+} // namespace
+
+Model::Model(QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_points(createDefaultData())
+    , m_xMin(View::absoluteMinimum())
+    , m_xMax(View::absoluteMaximum())
+    , m_yMin(View::absoluteMinimum())
+    , m_yMax(View::absoluteMaximum())
+{
+}
+
+Model::~Model() = default;
+
+int Model::rowCount(const QModelIndex&) const
+{
+    return int(m_points.size());
+}
+
+int Model::columnCount(const QModelIndex&) const
+{
+    return 2;
+}
+
+QVariant Model::data(const QModelIndex& index, int role) const
+{
+    if (index.row() >= rowCount() || index.column() > 1)
+        return QVariant();
+    if (role == Qt::DisplayRole || role == Qt::EditRole)
+        return dataDisplayRole(index);
+    return QVariant();
+}
+
+QVariant Model::dataDisplayRole(const QModelIndex& index) const
+{
+    if (!isRow(index.row()))
+        return QVariant();
+    const PointF& p = m_points[std::size_t(index.row())];
+    switch (index.column()) {
+    case 0:
+        return QString::number(p.x, 'g', 7);
+    case 1:
+        return QString::number(p.y, 'g', 7);
+    default:
+        return QVariant();
+    }
+}
+
+QVariant Model::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole)
+        return QVariant();
+    if (orientation == Qt::Vertical)
+        return QString::number(section);
+    switch (section) {
+    case 0:
+        return QStringLiteral("x");
+    case 1:
+        return QStringLiteral("y");
+    default:
+        return QVariant();
+    }
+}
+
+Qt::ItemFlags Model::flags(const QModelIndex& index) const
+{
+    return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+}
+
+bool Model::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (index.row() >= rowCount() || index.column() > 1 || role != Qt::EditRole)
+        return false;
+    return setDataEditRole(index, value);
+}
+
+void Model::setData(const Points& points)
+{
+    if (points == m_points)
+        return;
+    const Points replacement = points.empty() ? createDefaultData() : points;
+    beginResetModel();
+    m_points = replacement;
+    endResetModel();
+    m_selectedRow = -1;
+    Q_EMIT modelDataChanged();
+}
+
+bool Model::setDataEditRole(const QModelIndex& index, const QVariant& value)
+{
+    if (!setDataEditRole_i(index, value))
+        return false;
+    Q_EMIT modelDataChanged();
+    return true;
+}
+
+bool Model::setDataEditRole_i(const QModelIndex& index, const QVariant& value)
+{
+    const int row = index.row();
+    if (!isRow(row) || index.column() < 0 || index.column() > 1)
+        return false;
+    const double v = value.toDouble();
+    // Not-a-number passes every comparison below and would break the ordering for good.
+    if (std::isnan(v))
+        return false;
+    // Read through a const view: a non-const access would copy a shared list even for a refusal.
+    const Points& pts = m_points;
+    const std::size_t i = std::size_t(row);
+    if (index.column() == 0) {
+        if (v < m_xMin || v > m_xMax)
+            return false;
+        if (row >= 1 && pts[i - 1].x > v)
+            return false;
+        if (row < rowCount() - 1 && v > pts[i + 1].x)
+            return false;
+        m_points[i].x = v;
+    } else {
+        if (v < m_yMin || v > m_yMax)
+            return false;
+        m_points[i].y = v;
+    }
+    // Our own index: the caller's may come from another model.
+    const QModelIndex cell = this->index(row, index.column());
+    Q_EMIT dataChanged(cell, cell);
+    return true;
+}
+
+bool Model::movePoint(int row, const PointF& p)
+{
+    if (!movePoint_i(row, p))
+        return false;
+    Q_EMIT modelDataChanged();
+    return true;
+}
+
+bool Model::movePoint_i(int row, const PointF& p)
+{
+    if (!isRow(row) || std::as_const(m_points)[std::size_t(row)] == p)
+        return false;
+    const bool xTaken = setDataEditRole_i(index(row, 0), p.x);
+    const bool yTaken = setDataEditRole_i(index(row, 1), p.y);
+    return xTaken || yTaken;
+}
+
+void Model::insertPointBefore(int row)
+{
+    if (insertPointBefore_i(row))
+        Q_EMIT modelDataChanged();
+}
+
+void Model::insertPointAfter(int row)
+{
+    // Checked here, as row + 1 would overflow for the largest int.
+    if (row < rowCount() && insertPointBefore_i(row + 1))
+        Q_EMIT modelDataChanged();
+}
+
+bool Model::insertPointBefore_i(int row)
+{
+    const int n = rowCount();
+    if (row < 0 || row > n)
+        return false;
+    const Points& pts = m_points;
+    PointF p;
+    if (n == 0) {
+        // Nothing to derive from: the origin, for insertPoint() to move where it belongs.
+    } else if (row == 0) {
+        p = pts[0];
+        p.x = n == 1 ? pts[0].x - singlePointStep : pts[0].x - (pts[1].x - pts[0].x);
+    } else if (row == n) {
+        const std::size_t last = std::size_t(n - 1);
+        p = pts[last];
+        p.x = n == 1 ? pts[last].x + singlePointStep
+                     : pts[last].x + (pts[last].x - pts[last - 1].x);
+    } else {
+        const std::size_t i = std::size_t(row);
+        p = pts[i];
+        p.x = pts[i].x - (pts[i].x - pts[i - 1].x) * 0.5;
+    }
+
+    // Built aside, so that a failed allocation leaves the list as it was.
+    Points grown = m_points;
+    grown.insert(std::size_t(row), p);
+    beginInsertRows(QModelIndex(), row, row);
+    m_points = grown;
+    endInsertRows();
+    Q_EMIT selectedPointChanged(index(row, 0));
+    return true;
+}
+
+void Model::insertPoint(const PointF& p)
+{
+    const int n = rowCount();
+    int row = n;
+    for (int i = 0; i < n; ++i) {
+        if (std::as_const(m_points)[std::size_t(i)].x > p.x) {
+            row = i;
+            break;
+        }
+    }
+    if (!insertPointBefore_i(row))
+        return;
+    // One signal whether or not the move is taken: the new row alone is a change.
+    movePoint_i(row, p);
+    Q_EMIT modelDataChanged();
+}
+
+void Model::removePoint(int row)
+{
+    if (removePoint_i(row))
+        Q_EMIT modelDataChanged();
+}
+
+bool Model::removePoint_i(int row)
+{
+    if (!isRow(row))
+        return false;
+    Points shrunk = m_points;
+    shrunk.erase(std::size_t(row));
+    beginRemoveRows(QModelIndex(), row, row);
+    m_points = shrunk;
+    endRemoveRows();
+    return true;
+}
+
+void Model::setSelectedPoint(int row, int column)
+{
+    if (row != -1 && !isRow(row))
+        return;
+    const int old = m_selectedRow;
+    m_selectedRow = row;
+    // The old row may be gone: insertions and removals do not follow the selection.
+    if (isRow(old))
+        Q_EMIT dataChanged(index(old, 0), index(old, 1));
+    const QModelIndex idx = index(row, column);
+    Q_EMIT selectedPointChanged(idx);
+    if (idx.isValid())
+        Q_EMIT dataChanged(idx, idx);
+}
+
+void Model::setXRange(double min, double max)
+{
+    m_xMin = min;
+    m_xMax = max;
+}
+
+void Model::setYRange(double min, double max)
+{
+    m_yMin = min;
+    m_yMax = max;
+}
+
+QString Model::toString() const
+{
+    QStringList lines;
+    lines.reserve(rowCount());
+    for (const PointF& p : m_points)
+        lines << QStringLiteral("%1\t%2").arg(p.x).arg(p.y);
+    return lines.join(QLatin1Char('\n'));
+}
+
+void Model::fromString(const QString& text)
+{
+    static const QRegularExpression lineBreak(QStringLiteral("\r?\n"));
+    static const QRegularExpression blanks(QStringLiteral("\\s+"));
+    Points points;
+    const QStringList lines = text.split(lineBreak, Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        const QStringList fields = line.split(blanks, Qt::SkipEmptyParts);
+        // A line of blanks is a blank line, not a point at the origin.
+        if (fields.isEmpty())
+            continue;
+        PointF p;
+        p.x = fields.at(0).toDouble();
+        if (fields.size() >= 2)
+            p.y = fields.at(1).toDouble();
+        points.append(p);
+    }
+    if (!points.empty())
+        setData(points);
+}
+
+Model::Points Model::createDefaultData() const
+{
+    Points points;
+    points.reserve(21);
+    double x = -2.0;
+    for (int i = 0; i < 21; ++i) {
+        points.append(PointF{x, std::tanh(x)});
+        x += 0.2;
+    }
+    return points;
+}
+
+} // namespace kes::qt::discreteapproximator

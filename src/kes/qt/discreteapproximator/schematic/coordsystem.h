@@ -1,0 +1,69 @@
+#ifndef KES_QT_DISCRETEAPPROXIMATOR_SCHEMATIC_COORDSYSTEM_H
+#define KES_QT_DISCRETEAPPROXIMATOR_SCHEMATIC_COORDSYSTEM_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QGraphicsItem>
+#include <QRectF>
+
+#include <array>
+
+class QGraphicsLineItem;
+class QGraphicsPolygonItem;
+class QGraphicsRectItem;
+class QGraphicsSimpleTextItem;
+
+namespace kes::qt::discreteapproximator::schematic {
+
+class Model;
+
+/// The axes of the graph along the scene's margins, with arrow heads, a tick at the end of each
+/// range, the data range written under the ends of the x range and left of the ends of the y
+/// range, and the axis texts at the arrow ends. Draws nothing itself; its children do.
+class KES_QT_EXPORT Coordsystem : public QGraphicsItem
+{
+public:
+    enum RangeLabel { XMinimum, XMaximum, YMinimum, YMaximum };
+
+    explicit Coordsystem(Model* scene, QGraphicsItem* parent = nullptr);
+    ~Coordsystem() override;
+
+    /// Writes the range with 4 significant digits.
+    void setMinMax(double xMin, double xMax, double yMin, double yMax);
+    /// Lays the axes out for a scene of the size of \a rect.
+    void setSceneRect(const QRectF& rect);
+    void setXAxisText(const QString& text);
+    void setYAxisText(const QString& text);
+
+    Model* schematic() const { return m_scene; }
+    QString rangeText(RangeLabel label) const;
+    QString xAxisText() const;
+    QString yAxisText() const;
+
+    QRectF boundingRect() const override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
+               QWidget* widget) override;
+
+private:
+    void updateLabelPos();
+    void updateBoundingRect();
+
+    Model* m_scene;
+    std::array<QGraphicsRectItem*, 4> m_plates;
+    QGraphicsLineItem* m_xAxis;
+    QGraphicsLineItem* m_yAxis;
+    QGraphicsLineItem* m_xTick;
+    QGraphicsLineItem* m_yTick;
+    QGraphicsPolygonItem* m_xArrow;
+    QGraphicsPolygonItem* m_yArrow;
+    QGraphicsSimpleTextItem* m_xText;
+    QGraphicsSimpleTextItem* m_yText;
+    std::array<QGraphicsSimpleTextItem*, 4> m_rangeLabels;
+    QRectF m_boundingRect;
+    QRectF m_sceneRect;
+    std::array<double, 4> m_range{};
+};
+
+} // namespace kes::qt::discreteapproximator::schematic
+
+#endif

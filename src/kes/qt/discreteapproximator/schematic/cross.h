@@ -1,0 +1,36 @@
+#ifndef KES_QT_DISCRETEAPPROXIMATOR_SCHEMATIC_CROSS_H
+#define KES_QT_DISCRETEAPPROXIMATOR_SCHEMATIC_CROSS_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <kes/core/pointf.h>
+
+#include <QGraphicsPathItem>
+
+class QGraphicsSimpleTextItem;
+
+namespace kes::qt::discreteapproximator::schematic {
+
+/// A red plus sign over everything else at an operating point given by the application, with
+/// its coordinates underneath.
+class KES_QT_EXPORT Cross : public QGraphicsPathItem
+{
+public:
+    static constexpr double _crossSize = 5.0;
+
+    explicit Cross(QGraphicsItem* parent = nullptr);
+    ~Cross() override;
+
+    /// Stores \a p and shows it as "(x,y)"; placing the cross is the scene's business.
+    void setCrossPoint(const kes::core::PointF& p);
+    kes::core::PointF crossPoint() const { return m_point; }
+    QString labelText() const;
+
+private:
+    kes::core::PointF m_point;
+    QGraphicsSimpleTextItem* m_label;
+};
+
+} // namespace kes::qt::discreteapproximator::schematic
+
+#endif

@@ -1,0 +1,60 @@
+#ifndef KES_QT_DISCRETEAPPROXIMATOR_SCHEMATIC_POINT_H
+#define KES_QT_DISCRETEAPPROXIMATOR_SCHEMATIC_POINT_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QGraphicsItem>
+
+namespace kes::qt::discreteapproximator::schematic {
+
+class Model;
+class PosDisplay;
+
+/// One point of the characteristic, a filled circle: blue, or green while selected. It can be
+/// dragged with the left button and shows its coordinates while the cursor is over it. Where it
+/// stands is decided by the table model, never by the drag itself.
+class KES_QT_EXPORT Point : public QGraphicsItem
+{
+public:
+    enum { Type = UserType + 0x4b01 };
+    static constexpr double radius = 6.0;
+
+    explicit Point(Model* scene, QGraphicsItem* parent = nullptr);
+    ~Point() override;
+
+    int type() const override { return Type; }
+    QRectF boundingRect() const override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
+               QWidget* widget) override;
+
+    /// Draws the point as selected and raises it above the others.
+    void setSelected(bool selected);
+    bool selected() const { return m_selected; }
+    void setRow(int row) { m_row = row; }
+    int row() const { return m_row; }
+    PosDisplay* posDisplay() const { return m_posDisplay; }
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+    void hoverEnterEvent(QGraphicsSceneHoverEvent* event) override;
+    void hoverLeaveEvent(QGraphicsSceneHoverEvent* event) override;
+
+private:
+    double restingZ() const;
+    void updatePosText();
+
+    Model* m_scene;
+    QRectF m_rect;
+    double m_outlineWidth = 1.0;
+    QPointF m_grabOffset;
+    bool m_moving = false;
+    bool m_selected = false;
+    PosDisplay* m_posDisplay;
+    int m_row = -1;
+};
+
+} // namespace kes::qt::discreteapproximator::schematic
+
+#endif

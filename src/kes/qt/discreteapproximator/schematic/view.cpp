@@ -1,0 +1,83 @@
+#include <kes/qt/discreteapproximator/schematic/view.h>
+
+#include <kes/qt/discreteapproximator/contextmenu.h>
+#include <kes/qt/discreteapproximator/model.h>
+#include <kes/qt/discreteapproximator/schematic/model.h>
+#include <kes/qt/discreteapproximator/schematic/point.h>
+#include <kes/qt/translation/manager.h>
+
+#include <QAction>
+#include <QMouseEvent>
+#include <QResizeEvent>
+
+namespace kes::qt::discreteapproximator::schematic {
+
+View::View(Model* scene, QWidget* parent)
+    : QGraphicsView(scene, parent)
+    , m_scene(scene)
+    , m_insertPoint(new QAction(this))
+{
+    setMinimumSize(int(Model::_leftMargin + Model::_rightMargin + 100.0),
+                   int(Model::_topMargin + Model::_bottomMargin + 100.0));
+    // The scene is exactly as large as the viewport: nothing to scroll, and no frame taking
+    // pixels away from the plotting area.
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setRenderHint(QPainter::Antialiasing);
+    connect(m_insertPoint, SIGNAL(triggered()), this, SLOT(on_insertPoint()));
+    connect(&kes::qt::translation::Manager::singleton(), SIGNAL(languageChanged()), this,
+            SLOT(translate()));
+    translate();
+}
+
+View::~View() = default;
+
+void View::on_insertPoint()
+{
+    m_scene->insertPoint(m_pressPos);
+}
+
+void View::translate()
+{
+    m_insertPoint->setText(tr("Insert point"));
+}
+
+void View::resizeEvent(QResizeEvent* event)
+{
+    QGraphicsView::resizeEvent(event);
+    m_scene->setViewSize(viewport()->size());
+}
+
+void View::mousePressEvent(QMouseEvent* event)
+{
+    QGraphicsView::mousePressEvent(event);
+    m_pressPos = mapToScene(event->pos());
+    if (event->button() != Qt::RightButton)
+        return;
+    event->accept();
+
+    int row = -1;
+    const QList<QGraphicsItem*> hits = items(event->pos());
+    for (QGraphicsItem* item : hits) {
+        if (const auto* point = qgraphicsitem_cast<const Point*>(item)) {
+            row = point->row();
+            break;
+        }
+    }
+    discreteapproximator::Model* dataModel = m_scene->dataModel();
+    if (row >= 0 && row < dataModel->rowCount()) {
+        ContextMenu menu(row, dataModel);
+        menu.init();
+        menu.exec(event->globalPos());
+        return;
+    }
+    ContextMenu menu(-1, dataModel);
+    menu.addAction(m_insertPoint);
+    menu.addSeparator();
+    menu.init();
+    menu.exec(event->globalPos());
+}
+
+} // namespace kes::qt::discreteapproximator::schematic

@@ -1,0 +1,46 @@
+#ifndef KES_QT_DISCRETEAPPROXIMATOR_SCHEMATIC_VIEW_H
+#define KES_QT_DISCRETEAPPROXIMATOR_SCHEMATIC_VIEW_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QGraphicsView>
+
+class QAction;
+
+namespace kes::qt::discreteapproximator::schematic {
+
+class Model;
+
+/// Shows the graph at the size of the widget, one scene pixel per screen pixel. A right click
+/// on a point opens the point's context menu; on empty space the menu starts with "Insert point",
+/// which inserts at the clicked position.
+class KES_QT_EXPORT View : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    /// \a scene is not owned.
+    explicit View(Model* scene, QWidget* parent = nullptr);
+    ~View() override;
+
+    Model* schematic() const { return m_scene; }
+    /// The view's own translate(dx, dy) stays available beside the slot of the same name.
+    using QGraphicsView::translate;
+
+public Q_SLOTS:
+    void on_insertPoint();
+    void translate();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    Model* m_scene;
+    QPointF m_pressPos;
+    QAction* m_insertPoint;
+};
+
+} // namespace kes::qt::discreteapproximator::schematic
+
+#endif

@@ -1,0 +1,37 @@
+#ifndef KES_QT_DISCRETEAPPROXIMATOR_TABLEVIEW_H
+#define KES_QT_DISCRETEAPPROXIMATOR_TABLEVIEW_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QTableView>
+
+namespace kes::qt::discreteapproximator {
+
+class Model;
+
+/// The point table as x/y cells, edited as text through a Delegate; a right click opens the
+/// ContextMenu for the row under the cursor, or for the whole list below the last row.
+class KES_QT_EXPORT TableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    /// \a model is not owned.
+    explicit TableView(Model* model, QWidget* parent = nullptr);
+    ~TableView() override;
+
+public Q_SLOTS:
+    void on_clicked(const QModelIndex& index);
+    /// Makes \a index the current cell, so that a selection in the graph or a new point shows.
+    void on_selectedPointChanged(const QModelIndex& index);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    Model* m_model;
+};
+
+} // namespace kes::qt::discreteapproximator
+
+#endif

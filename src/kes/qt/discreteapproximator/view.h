@@ -1,0 +1,80 @@
+#ifndef KES_QT_DISCRETEAPPROXIMATOR_VIEW_H
+#define KES_QT_DISCRETEAPPROXIMATOR_VIEW_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <kes/core/pointf.h>
+#include <kes/core/vector.h>
+
+#include <QTabWidget>
+
+class QAction;
+
+namespace kes::qt::discreteapproximator {
+
+class Model;
+class TableView;
+
+namespace schematic {
+class Model;
+class View;
+} // namespace schematic
+
+/// The curve editor: a piecewise-linear characteristic as a draggable graph on one tab and as
+/// an x/y table on the other, both editing the same points.
+///
+/// The application sets the points, the admissible x and y ranges, the axis texts and an
+/// operating point to mark, and hears of every change made by the user through dataChanged().
+/// A new editor shows 21 points of a hyperbolic tangent between x = -2 and x = 2.
+class KES_QT_EXPORT View : public QTabWidget
+{
+    Q_OBJECT
+
+public:
+    explicit View(QWidget* parent = nullptr);
+    ~View() override;
+
+    /// The default limits: the range of a signed 32-bit integer.
+    static double absoluteMinimum();
+    static double absoluteMaximum();
+
+    /// The points, shared with the editor but never changed by later edits.
+    kes::core::Vector<kes::core::PointF> data() const;
+    /// Replaces the points; an equal list emits nothing, an empty one installs the default curve.
+    void setData(const kes::core::Vector<kes::core::PointF>& points);
+
+    /// Admissible ranges for later edits; points already outside are left as they are.
+    void setXRange(double min, double max);
+    void setYRange(double min, double max);
+    void setXAxisText(const QString& text);
+    void setYAxisText(const QString& text);
+
+    /// The operating point marked by a cross on the graph.
+    void setPoint(const kes::core::PointF& p);
+    void setPoint(double x, double y);
+    /// Shows or hides the cross; hidden at first.
+    void setShowPointEnabled(bool enabled);
+    /// Offered last in the right-click menus; not owned.
+    void setHelpAction(QAction* action);
+
+    Model* model() const { return m_model; }
+    schematic::View* graphicsView() const { return m_graphicsView; }
+    TableView* tableView() const { return m_tableView; }
+
+public Q_SLOTS:
+    void translate();
+
+Q_SIGNALS:
+    /// After every change of the points by the user or by setData().
+    void dataChanged();
+
+private:
+    Model* m_model;
+    schematic::Model* m_scene;
+    schematic::View* m_graphicsView;
+    TableView* m_tableView;
+};
+
+} // namespace kes::qt::discreteapproximator
+
+#endif
