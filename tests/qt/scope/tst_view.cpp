@@ -5,6 +5,9 @@
 
 #include <QImage>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QRandomGenerator>
 #include <QPushButton>
 #include <QtTest>
 
@@ -44,6 +47,43 @@ QVector<int> rowsInColumn(const QImage& image, int x, const QColor& color, int t
     return rows;
 }
 
+// What the view is to show: the grid, the markers and every segment of every curve drawn one at a
+// time, from the view's own mapping.
+QImage everySegment(View& view)
+{
+    const QRect plot = view.plotRect();
+    QPixmap pixmap(view.size());
+    pixmap.fill(view.palette().color(view.backgroundRole()));
+    QPainter painter(&pixmap);
+    view.drawGrid(&painter);
+    view.drawArrows(&painter);
+    for (int i = 0; i < view.numChannels(); ++i) {
+        const auto& c = view.channel(i);
+        if (!c.enabled || c.points.isEmpty())
+            continue;
+        painter.setPen(QPen(c.color, 1));
+        const bool reverse = !c.triggered;
+        const double origin = reverse ? c.points.constLast().x() : c.points.constFirst().x();
+        QVector<QPointF> path;
+        for (int k = 0; k < c.points.size(); ++k) {
+            const QPointF& p = c.points.at(reverse ? c.points.size() - 1 - k : k);
+            const double px = reverse ? plot.right() - (origin - p.x()) * c.xPixelsPerUnit
+                                      : plot.left() + (p.x() - origin) * c.xPixelsPerUnit;
+            if (px > plot.right())
+                break;
+            path.append(QPointF(px, view.yValue2pixel(c, p.y())));
+        }
+        if (path.size() == c.points.size()) {
+            const double zero = view.yValue2pixel(c, 0.0);
+            path.append(QPointF(path.constLast().x(), zero));
+            path.append(QPointF(reverse ? plot.left() : plot.right(), zero));
+        }
+        for (int k = 1; k < path.size(); ++k)
+            painter.drawLine(QLineF(path.at(k - 1), path.at(k)));
+    }
+    return pixmap.toImage();
+}
+
 } // namespace
 
 class tst_View : public QObject
@@ -65,6 +105,8 @@ private Q_SLOTS:
     void sweepEndsOnTheZeroLine_data();
     void sweepEndsOnTheZeroLine();
     void freeRunningTrimsToOneScreen();
+    void drawsEverySegment_data();
+    void drawsEverySegment();
 };
 
 void tst_View::geometryOfTheSmallestView()
@@ -332,6 +374,69 @@ void tst_View::freeRunningTrimsToOneScreen()
         view.addPoint(0, i, -1.0);
     view.redraw();
     QCOMPARE(view.channel(0).points.size(), kept + 2000);
+}
+
+// Curves drawn from fewer points where a pixel column holds many must look exactly as if every
+// segment were drawn.
+void tst_View::drawsEverySegment_data()
+{
+    QTest::addColumn<bool>("triggered");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<double>("noise");
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QSize>("size");
+
+    const QColor opaque(Qt::darkBlue);
+    const QColor translucent(0, 0, 255, 128);
+    QTest::newRow("sweep, 30 per column") << true << 10000 << 2.0 << opaque << QSize(400, 300);
+    QTest::newRow("sweep, 8 per column") << true << 10000 << 2.0 << opaque << QSize(1280, 720);
+    QTest::newRow("sweep, 2 per column") << true << 2000 << 2.0 << opaque << QSize(1000, 500);
+    QTest::newRow("sweep, quiet") << true << 10000 << 0.02 << opaque << QSize(800, 400);
+    QTest::newRow("sweep, clipped") << true << 10000 << 30.0 << opaque << QSize(640, 480);
+    QTest::newRow("free running, noisy") << false << 12000 << 2.0 << opaque << QSize(900, 600);
+    QTest::newRow("free running, quiet") << false << 12000 << 0.05 << opaque << QSize(700, 300);
+    QTest::newRow("translucent") << true << 10000 << 2.0 << translucent << QSize(500, 300);
+}
+
+void tst_View::drawsEverySegment()
+{
+    QFETCH(bool, triggered);
+    QFETCH(int, count);
+    QFETCH(double, noise);
+    QFETCH(QColor, color);
+    QFETCH(QSize, size);
+
+    View view;
+    view.resize(size);
+    view.setNumChannels(3);
+    QRandomGenerator random(uint(count + size.width()));
+    for (int c = 0; c < 3; ++c) {
+        view.setColor(c, c == 1 ? color : QColor(Qt::red));
+        view.setYScale(c, 0.5 + c);
+    }
+    // Free-running channels are trimmed and drawn from the right only by the refresh that finds
+    // them wider than the plot: all of them at once, by the redraw below.
+    for (int c = 0; c < 3; ++c) {
+        // Samples at uneven times, some repeated, over one screen (1000 units).
+        double x = 0.0;
+        for (int i = 0; i < count; ++i) {
+            x += (i % 97 == 0) ? 0.0 : random.bounded(2.0 * 1000.0 / count);
+            const double y = std::sin(x * 0.02 * (c + 1)) + noise * (random.generateDouble() - 0.5);
+            view.addPoint(c, x * (triggered ? 1.0 : 1.2), y);
+        }
+        if (triggered)
+            view.setTrigger(c, TriggerRisingEdge);
+    }
+    view.redraw();
+    const QImage drawn = view.pixmap().toImage();
+    const QImage expected = everySegment(view);
+    QCOMPARE(drawn.size(), expected.size());
+    int differing = 0;
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x)
+            differing += drawn.pixel(x, y) != expected.pixel(x, y);
+    }
+    QCOMPARE(differing, 0);
 }
 
 KES_TEST_MAIN(tst_View)

@@ -17,7 +17,9 @@
 #include <QPushButton>
 #include <QSignalMapper>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace kes::qt::scope {
 
@@ -28,30 +30,127 @@ QString number(double value)
     return QStringLiteral("%1").arg(value, 0, 'g', -1);
 }
 
-// Collects the segments of one curve for a single drawLines call.
-class Polyline
+// yValue2pixel() in a form the drawing loops can inline.
+class RowMapping
 {
 public:
-    explicit Polyline(QVector<QLineF>& lines)
-        : m_lines(lines)
+    RowMapping(const Channel& channel, int centre, const QRect& plot)
+        : m_offset(channel.yOffset)
+        , m_perUnit(channel.yPixelsPerUnit)
+        , m_centre(centre)
+        , m_top(plot.top())
+        , m_bottom(plot.bottom())
     {
-        m_lines.clear();
     }
 
-    void moveTo(const QPointF& point) { m_previous = point; }
-
-    void lineTo(const QPointF& point)
+    int operator()(double value) const
     {
-        m_lines.append(QLineF(m_previous, point));
-        m_previous = point;
+        const double pixel = (-value - m_offset) * m_perUnit + m_centre;
+        // Clamped before the conversion, which is undefined for values out of int's range; NaN
+        // goes to the top like a large value.
+        if (!(pixel > m_top))
+            return m_top;
+        if (!(pixel < m_bottom))
+            return m_bottom;
+        return int(pixel);
     }
-
-    QPointF current() const { return m_previous; }
 
 private:
-    QVector<QLineF>& m_lines;
-    QPointF m_previous;
+    double m_offset;
+    double m_perUnit;
+    double m_centre;
+    int m_top;
+    int m_bottom;
 };
+
+// The segments of one curve for a single drawLines call, with each run of samples within one pixel
+// column merged into a one pixel wide rectangle. Line rasterising dominates the refresh, and a
+// column often holds many samples: the segments between them light that column from their lowest
+// to their highest row, exactly the pixels of the rectangle, which the raster engine fills far
+// faster. Whether a segment stays inside its column follows the raster engine's aliased line
+// rules (26.6 fixed-point ends, the half-pixel extension of square caps, single points rounded to
+// the nearest pixel), with a margin; every other segment is kept as it is, so the picture is the
+// same as drawing every segment. Translucent colours blend where segments overlap, so for them
+// nothing is merged.
+constexpr int noColumn = std::numeric_limits<int>::min();
+constexpr double columnMargin = 2.0 / 64.0;
+
+// Only a guess: inColumn() decides, with margins on both sides of the column.
+int columnOf(double x)
+{
+    if (!(std::abs(x) < 1e6))
+        return noColumn;
+    const int truncated = int(x);
+    return truncated - int(x < truncated);
+}
+
+// Whether the segment a-b, both ends in \a column, lights pixels of that column only, every row
+// from a's to b's. Computed without branches: on noisy data they would be guessed wrong.
+bool inColumn(const QPointF& a, const QPointF& b, int column)
+{
+    const double dx = std::abs(b.x() - a.x());
+    const double dy = std::abs(b.y() - a.y());
+    const double left = std::min(a.x(), b.x()) - column - columnMargin;
+    const double right = column + 1 - columnMargin - std::max(a.x(), b.x());
+    // A steep segment reaches half a row beyond its ends, and its x moves with it.
+    const bool steep = (dy >= 1.0) & (2.0 * dy * left >= dx) & (2.0 * dy * right > dx);
+    // A single point goes to the nearest pixel.
+    const bool flat = (left >= 0.0) & (right > (dx == 0.0 ? 0.5 : 0.0));
+    return dy == 0.0 ? flat : steep;
+}
+
+// Traces the points that \a next hands out, one per call until it returns false. State is kept in
+// locals: members would be reloaded after every store into the vectors.
+template <typename Next>
+void trace(Next next, bool merge, QVector<QLineF>& lines, QVector<QRect>& columns)
+{
+    lines.clear();
+    columns.clear();
+    QPointF last;
+    if (!next(last))
+        return;
+    auto startRun = [&](const QPointF& point, int& column, double& top, double& bottom) {
+        column = merge ? columnOf(point.x()) : noColumn;
+        top = bottom = point.y();
+    };
+    int column = noColumn;
+    double top = 0.0;
+    double bottom = 0.0;
+    int count = 1;
+    startRun(last, column, top, bottom);
+    QPointF point;
+    while (next(point)) {
+        if ((columnOf(point.x()) == column) & (column != noColumn) & inColumn(last, point, column)) {
+            top = std::min(top, point.y());
+            bottom = std::max(bottom, point.y());
+            last = point;
+            ++count;
+            continue;
+        }
+        if (count > 1)
+            columns.append(QRect(column, int(top), 1, int(bottom - top) + 1));
+        lines.append(QLineF(last, point));
+        last = point;
+        count = 1;
+        startRun(point, column, top, bottom);
+    }
+    if (count > 1)
+        columns.append(QRect(column, int(top), 1, int(bottom - top) + 1));
+}
+
+void drawCurve(QPainter* painter, const QVector<QLineF>& lines, const QVector<QRect>& columns)
+{
+    painter->drawLines(lines);
+    if (columns.isEmpty())
+        return;
+    const QPen pen = painter->pen();
+    const QBrush brush = painter->brush();
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(pen.color());
+    painter->drawRects(columns);
+    painter->setPen(pen);
+    painter->setBrush(brush);
+}
 
 } // namespace
 
@@ -271,14 +370,7 @@ void View::redraw()
 
 int View::yValue2pixel(const Channel& channel, double value) const
 {
-    const double pixel = (-value - channel.yOffset) * channel.yPixelsPerUnit + m_yCentre;
-    // Clamped before the conversion, which is undefined for values out of int's range; NaN goes
-    // to the top like a large value.
-    if (!(pixel > m_plotRect.top()))
-        return m_plotRect.top();
-    if (!(pixel < m_plotRect.bottom()))
-        return m_plotRect.bottom();
-    return int(pixel);
+    return RowMapping(channel, m_yCentre, m_plotRect)(value);
 }
 
 double View::pixel2yValue(const Channel& channel, int pixel) const
@@ -360,51 +452,74 @@ void View::drawCurves(QPainter* painter)
 
 void View::drawData(const Channel& channel, QPainter* painter)
 {
-    if (channel.points.isEmpty())
+    const QVector<QPointF>& points = channel.points;
+    if (points.isEmpty())
         return;
     const double left = m_plotRect.left();
     const double right = m_plotRect.right();
-    const double x0 = channel.points.constFirst().x();
-    QVector<QLineF> lines;
-    Polyline curve(lines);
-    curve.moveTo(QPointF(left, yValue2pixel(channel, channel.points.constFirst().y())));
-    bool complete = true;
-    for (int i = 1; i < channel.points.size(); ++i) {
-        const QPointF& p = channel.points.at(i);
-        const double px = (p.x() - x0) * channel.xPixelsPerUnit + left;
-        if (px > right) {
-            complete = false;
-            break;
+    const double x0 = points.constFirst().x();
+    const double perUnit = channel.xPixelsPerUnit;
+    const RowMapping row(channel, m_yCentre, m_plotRect);
+    const double zero = row(0.0);
+
+    // The samples from the left edge, then down or up to the zero row and along it to the right
+    // edge, unless a sample beyond the right edge ended the sweep.
+    int i = 0;
+    int closing = 0;
+    double lastX = left;
+    auto next = [&](QPointF& point) {
+        if (i < points.size()) {
+            const QPointF& p = points.at(i);
+            const double px = (p.x() - x0) * perUnit + left;
+            if (px > right) {
+                i = points.size();
+                closing = 2;
+                return false;
+            }
+            ++i;
+            lastX = px;
+            point = QPointF(px, row(p.y()));
+            return true;
         }
-        curve.lineTo(QPointF(px, yValue2pixel(channel, p.y())));
-    }
-    if (complete) {
-        const double zero = yValue2pixel(channel, 0.0);
-        curve.lineTo(QPointF(curve.current().x(), zero));
-        curve.lineTo(QPointF(right, zero));
-    }
-    painter->drawLines(lines);
+        if (closing == 2)
+            return false;
+        point = QPointF(closing++ == 0 ? lastX : right, zero);
+        return true;
+    };
+    trace(next, channel.color.alpha() == 255, m_curveLines, m_curveColumns);
+    drawCurve(painter, m_curveLines, m_curveColumns);
 }
 
 void View::drawDataReverse(const Channel& channel, QPainter* painter)
 {
-    if (channel.points.isEmpty())
+    const QVector<QPointF>& points = channel.points;
+    if (points.isEmpty())
         return;
     const double left = m_plotRect.left();
     const double right = m_plotRect.right();
-    const double xLast = channel.points.constLast().x();
-    QVector<QLineF> lines;
-    Polyline curve(lines);
-    curve.moveTo(QPointF(right, yValue2pixel(channel, channel.points.constLast().y())));
-    for (int i = channel.points.size() - 2; i >= 0; --i) {
-        const QPointF& p = channel.points.at(i);
-        curve.lineTo(QPointF(right - (xLast - p.x()) * channel.xPixelsPerUnit,
-                             yValue2pixel(channel, p.y())));
-    }
-    const double zero = yValue2pixel(channel, 0.0);
-    curve.lineTo(QPointF(curve.current().x(), zero));
-    curve.lineTo(QPointF(left, zero));
-    painter->drawLines(lines);
+    const double xLast = points.constLast().x();
+    const double perUnit = channel.xPixelsPerUnit;
+    const RowMapping row(channel, m_yCentre, m_plotRect);
+    const double zero = row(0.0);
+
+    // The samples from the right edge backwards, then to the zero row and along it to the left.
+    int i = points.size() - 1;
+    int closing = 0;
+    double lastX = right;
+    auto next = [&](QPointF& point) {
+        if (i >= 0) {
+            const QPointF& p = points.at(i--);
+            lastX = right - (xLast - p.x()) * perUnit;
+            point = QPointF(lastX, row(p.y()));
+            return true;
+        }
+        if (closing == 2)
+            return false;
+        point = QPointF(closing++ == 0 ? lastX : left, zero);
+        return true;
+    };
+    trace(next, channel.color.alpha() == 255, m_curveLines, m_curveColumns);
+    drawCurve(painter, m_curveLines, m_curveColumns);
 }
 
 void View::refreshPixmap()

@@ -5,6 +5,7 @@
 #include <kes/qt/scope/channel.h>
 
 #include <QColor>
+#include <QLineF>
 #include <QPixmap>
 #include <QPointF>
 #include <QPolygonF>
@@ -16,7 +17,6 @@
 #include <array>
 
 class QButtonGroup;
-class QLineF;
 class QPainter;
 class QPushButton;
 
@@ -139,6 +139,9 @@ private:
     QVector<QString> m_defaultNames;
     QVector<QPushButton*> m_channelButtons;
     QButtonGroup* m_channelButtonGroup = nullptr;
+    // Reused by every curve, so that a refresh allocates nothing once the sizes settle.
+    QVector<QLineF> m_curveLines;
+    QVector<QRect> m_curveColumns;
 };
 
 } // namespace kes::qt::scope
