@@ -134,8 +134,8 @@ void perSegment(benchmark::State& state, int count)
 {
     const auto view = makeView(makeCurves(count), true);
     const QRect plot = view->plotRect();
+    QPixmap pixmap(width, height);
     for (auto _ : state) {
-        QPixmap pixmap(width, height);
         pixmap.fill(view->palette().color(view->backgroundRole()));
         QPainter painter(&pixmap);
         view->drawGrid(&painter);

@@ -536,7 +536,9 @@ void View::refreshPixmap()
     m_labelHeight = 18;
     m_yCentre = (m_plotRect.top() + m_plotRect.bottom()) / 2;
 
-    m_pixmap = QPixmap(w, h);
+    // Kept while the size stays: a new one each time costs the page faults of a fresh buffer.
+    if (m_pixmap.size() != QSize(w, h))
+        m_pixmap = QPixmap(w, h);
     m_pixmap.fill(palette().color(backgroundRole()));
     QPainter painter(&m_pixmap);
     drawGrid(&painter);
