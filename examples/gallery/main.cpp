@@ -1,6 +1,7 @@
 #include "aboutpage.h"
 #include "mainwindow.h"
 #include "page.h"
+#include "scopepage.h"
 #include "screenshots.h"
 #include "translationpage.h"
 
@@ -34,6 +35,7 @@ void addPages(MainWindow& window)
 {
     window.addPage(new kes::gallery::AboutPage);
     window.addPage(new kes::gallery::TranslationPage);
+    window.addPage(new kes::gallery::ScopePage);
 }
 
 bool hasOption(int argc, char** argv, std::initializer_list<const char*> names)

@@ -83,8 +83,6 @@ public:
     /// The picture the view shows.
     const QPixmap& pixmap() const { return m_pixmap; }
 
-    void redraw();
-
     /// The pixel row of \a value, clamped to the plot.
     int yValue2pixel(const Channel& channel, double value) const;
     /// Not the inverse of yValue2pixel(): the value term has the opposite sign.
@@ -96,6 +94,10 @@ public:
     void drawData(const Channel& channel, QPainter* painter);
     void drawDataReverse(const Channel& channel, QPainter* painter);
     void refreshPixmap();
+
+public Q_SLOTS:
+    /// Repaints the plot from the channels' current samples.
+    void redraw();
 
 Q_SIGNALS:
     void triggerChanged(int channel, int trigger);
