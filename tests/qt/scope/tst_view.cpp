@@ -107,6 +107,8 @@ private Q_SLOTS:
     void freeRunningTrimsToOneScreen();
     void drawsEverySegment_data();
     void drawsEverySegment();
+    void survivesBadInput_data();
+    void survivesBadInput();
 };
 
 void tst_View::geometryOfTheSmallestView()
@@ -437,6 +439,45 @@ void tst_View::drawsEverySegment()
             differing += drawn.pixel(x, y) != expected.pixel(x, y);
     }
     QCOMPARE(differing, 0);
+}
+
+void tst_View::survivesBadInput_data()
+{
+    QTest::addColumn<bool>("triggered");
+    QTest::addColumn<double>("xScale");
+    QTest::addColumn<double>("yScale");
+
+    QTest::newRow("sweep") << true << 100.0 << 1.0;
+    QTest::newRow("free running") << false << 100.0 << 1.0;
+    QTest::newRow("zero scales, sweep") << true << 0.0 << 0.0;
+    QTest::newRow("zero scales, free running") << false << 0.0 << 0.0;
+    QTest::newRow("tiny x scale") << true << 1e-300 << 1e300;
+    QTest::newRow("NaN scales") << false << std::nan("") << std::nan("");
+}
+
+void tst_View::survivesBadInput()
+{
+    QFETCH(bool, triggered);
+    QFETCH(double, xScale);
+    QFETCH(double, yScale);
+
+    const double inf = std::numeric_limits<double>::infinity();
+    View view;
+    view.setCurrentChannel(0);
+    view.setTrigger(0, triggered ? TriggerRisingEdge : TriggerOff);
+    view.setTriggerPosition(0, std::nan(""));
+    view.setXScale(0, xScale);
+    view.setYScale(0, yScale);
+    view.setYOffset(0, -inf);
+    const QVector<QPointF> samples{{0, 1},      {1e300, -1e300}, {-1e300, inf}, {inf, 0},
+                                   {5, std::nan("")}, {-inf, 2},     {6, -inf},     {7, 1}};
+    for (const QPointF& p : samples)
+        view.addPoint(0, p.x(), p.y());
+    view.redraw();
+    QVERIFY(view.channel(0).points.size() <= samples.size());
+    // Time neither infinite nor NaN: every stored sample has a finite x.
+    for (const QPointF& p : view.channel(0).points)
+        QVERIFY(std::isfinite(p.x()));
 }
 
 KES_TEST_MAIN(tst_View)

@@ -438,7 +438,7 @@ void View::drawCurves(QPainter* painter)
         auto fits = [&](const QPointF& first) {
             return (lastX - first.x()) * c.xPixelsPerUnit <= plotWidth;
         };
-        if (fits(c.points.constFirst())) {
+        if (!((lastX - c.points.constFirst().x()) * c.xPixelsPerUnit > plotWidth)) {
             drawData(c, painter);
             continue;
         }

@@ -68,7 +68,8 @@ public:
     void setTriggerPosition(int channel, double position);
     void setInterpolationMethod(int channel, InterpolationMethod_t method);
     /// Appends a sample; it becomes visible at the next redraw(). Ignored for hidden channels and
-    /// for a non-finite \a x.
+    /// for a non-finite \a x. A free-running channel starts again when x runs backwards; one with
+    /// a trigger holds at most 10,000 samples and drops further ones until its next trigger.
     void addPoint(int channel, double x, double y);
 
     void setXAxisTitle(const QString& title) { m_xAxisTitle = title; }
