@@ -95,8 +95,8 @@ bool inColumn(const QPointF& a, const QPointF& b, int column)
     // A steep segment reaches half a row beyond its ends, and its x moves with it.
     const bool steep = (dy >= 1.0) & (2.0 * dy * left >= dx) & (2.0 * dy * right > dx);
     // A single point goes to the nearest pixel.
-    const bool flat = (left >= 0.0) & (right > (dx == 0.0 ? 0.5 : 0.0));
-    return dy == 0.0 ? flat : steep;
+    const bool flat = (dy == 0.0) & (left >= 0.0) & (right > 0.5 * double(dx == 0.0));
+    return steep | flat;
 }
 
 // Traces the points that \a next hands out, one per call until it returns false. State is kept in
@@ -120,7 +120,8 @@ void trace(Next next, bool merge, QVector<QLineF>& lines, QVector<QRect>& column
     startRun(last, column, top, bottom);
     QPointF point;
     while (next(point)) {
-        if ((columnOf(point.x()) == column) & (column != noColumn) & inColumn(last, point, column)) {
+        // inColumn() also tells whether the point is in the run's column at all.
+        if (inColumn(last, point, column)) {
             top = std::min(top, point.y());
             bottom = std::max(bottom, point.y());
             last = point;
