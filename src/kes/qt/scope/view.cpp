@@ -99,44 +99,44 @@ bool inColumn(const QPointF& a, const QPointF& b, int column)
     return steep | flat;
 }
 
-// Traces the points that \a next hands out, one per call until it returns false. State is kept in
-// locals: members would be reloaded after every store into the vectors.
-template <typename Next>
-void trace(Next next, bool merge, QVector<QLineF>& lines, QVector<QRect>& columns)
+// Traces the polyline through \a count points. State is kept in locals: members would be reloaded
+// after every store into the vectors.
+void trace(const QPointF* points, int count, bool merge, QVector<QLineF>& lines,
+           QVector<QRect>& columns)
 {
     lines.clear();
     columns.clear();
-    QPointF last;
-    if (!next(last))
+    if (count == 0)
         return;
-    auto startRun = [&](const QPointF& point, int& column, double& top, double& bottom) {
-        column = merge ? columnOf(point.x()) : noColumn;
-        top = bottom = point.y();
-    };
     int column = noColumn;
     double top = 0.0;
     double bottom = 0.0;
-    int count = 1;
-    startRun(last, column, top, bottom);
-    QPointF point;
-    while (next(point)) {
+    int run = 0;
+    auto startRun = [&](const QPointF& point) {
+        column = merge ? columnOf(point.x()) : noColumn;
+        top = bottom = point.y();
+        run = 1;
+    };
+    auto endRun = [&] {
+        if (run > 1)
+            columns.append(QRect(column, int(top), 1, int(bottom - top) + 1));
+    };
+    startRun(points[0]);
+    for (int i = 1; i < count; ++i) {
+        const QPointF& last = points[i - 1];
+        const QPointF& point = points[i];
         // inColumn() also tells whether the point is in the run's column at all.
         if (inColumn(last, point, column)) {
             top = std::min(top, point.y());
             bottom = std::max(bottom, point.y());
-            last = point;
-            ++count;
+            ++run;
             continue;
         }
-        if (count > 1)
-            columns.append(QRect(column, int(top), 1, int(bottom - top) + 1));
+        endRun();
         lines.append(QLineF(last, point));
-        last = point;
-        count = 1;
-        startRun(point, column, top, bottom);
+        startRun(point);
     }
-    if (count > 1)
-        columns.append(QRect(column, int(top), 1, int(bottom - top) + 1));
+    endRun();
 }
 
 void drawCurve(QPainter* painter, const QVector<QLineF>& lines, const QVector<QRect>& columns)
@@ -461,34 +461,25 @@ void View::drawData(const Channel& channel, QPainter* painter)
     const double x0 = points.constFirst().x();
     const double perUnit = channel.xPixelsPerUnit;
     const RowMapping row(channel, m_yCentre, m_plotRect);
-    const double zero = row(0.0);
 
     // The samples from the left edge, then down or up to the zero row and along it to the right
     // edge, unless a sample beyond the right edge ended the sweep.
-    int i = 0;
-    int closing = 0;
-    double lastX = left;
-    auto next = [&](QPointF& point) {
-        if (i < points.size()) {
-            const QPointF& p = points.at(i);
-            const double px = (p.x() - x0) * perUnit + left;
-            if (px > right) {
-                i = points.size();
-                closing = 2;
-                return false;
-            }
-            ++i;
-            lastX = px;
-            point = QPointF(px, row(p.y()));
-            return true;
-        }
-        if (closing == 2)
-            return false;
-        point = QPointF(closing++ == 0 ? lastX : right, zero);
-        return true;
-    };
-    trace(next, channel.color.alpha() == 255, m_curveLines, m_curveColumns);
-    drawCurve(painter, m_curveLines, m_curveColumns);
+    m_mapped.resize(points.size() + 2);
+    QPointF* mapped = m_mapped.data();
+    int count = 0;
+    for (const QPointF& p : points) {
+        const double px = (p.x() - x0) * perUnit + left;
+        if (px > right)
+            break;
+        mapped[count++] = QPointF(px, row(p.y()));
+    }
+    if (count == points.size()) {
+        const double zero = row(0.0);
+        mapped[count] = QPointF(mapped[count - 1].x(), zero);
+        mapped[count + 1] = QPointF(right, zero);
+        count += 2;
+    }
+    drawMapped(channel, painter, count);
 }
 
 void View::drawDataReverse(const Channel& channel, QPainter* painter)
@@ -501,25 +492,25 @@ void View::drawDataReverse(const Channel& channel, QPainter* painter)
     const double xLast = points.constLast().x();
     const double perUnit = channel.xPixelsPerUnit;
     const RowMapping row(channel, m_yCentre, m_plotRect);
-    const double zero = row(0.0);
 
     // The samples from the right edge backwards, then to the zero row and along it to the left.
-    int i = points.size() - 1;
-    int closing = 0;
-    double lastX = right;
-    auto next = [&](QPointF& point) {
-        if (i >= 0) {
-            const QPointF& p = points.at(i--);
-            lastX = right - (xLast - p.x()) * perUnit;
-            point = QPointF(lastX, row(p.y()));
-            return true;
-        }
-        if (closing == 2)
-            return false;
-        point = QPointF(closing++ == 0 ? lastX : left, zero);
-        return true;
-    };
-    trace(next, channel.color.alpha() == 255, m_curveLines, m_curveColumns);
+    m_mapped.resize(points.size() + 2);
+    QPointF* mapped = m_mapped.data();
+    int count = 0;
+    for (int i = points.size() - 1; i >= 0; --i) {
+        const QPointF& p = points.at(i);
+        mapped[count++] = QPointF(right - (xLast - p.x()) * perUnit, row(p.y()));
+    }
+    const double zero = row(0.0);
+    mapped[count] = QPointF(mapped[count - 1].x(), zero);
+    mapped[count + 1] = QPointF(left, zero);
+    drawMapped(channel, painter, count + 2);
+}
+
+void View::drawMapped(const Channel& channel, QPainter* painter, int count)
+{
+    trace(m_mapped.constData(), count, channel.color.alpha() == 255, m_curveLines,
+          m_curveColumns);
     drawCurve(painter, m_curveLines, m_curveColumns);
 }
 

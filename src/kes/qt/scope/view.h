@@ -125,6 +125,8 @@ private Q_SLOTS:
 private:
     static bool isChannel(int channel) { return channel >= 0 && channel < maxChannels; }
     void updateToolTip(int channel);
+    /// Draws the first \a count points of m_mapped, in pixels, in the channel's colour.
+    void drawMapped(const Channel& channel, QPainter* painter, int count);
 
     std::array<Channel, maxChannels> m_channels;
     int m_numChannels = 4;
@@ -145,6 +147,7 @@ private:
     // Reused by every curve, so that a refresh allocates nothing once the sizes settle.
     QVector<QLineF> m_curveLines;
     QVector<QRect> m_curveColumns;
+    QVector<QPointF> m_mapped;        ///< the curve being drawn, in pixels
 };
 
 } // namespace kes::qt::scope
