@@ -3,6 +3,7 @@
 #include "logpage.h"
 #include "mainwindow.h"
 #include "page.h"
+#include "scopepage.h"
 #include "screenshots.h"
 #include "translationpage.h"
 
@@ -39,6 +40,7 @@ void addPages(MainWindow& window)
     window.addPage(new kes::gallery::AboutPage);
     window.addPage(new kes::gallery::TranslationPage);
     window.addPage(new kes::gallery::LogPage(window));
+    window.addPage(new kes::gallery::ScopePage);
     window.addPage(new kes::gallery::CurveEditorPage);
 }
 

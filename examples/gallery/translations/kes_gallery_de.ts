@@ -204,6 +204,37 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::ScopePage</name>
+    <message>
+        <source>Scope</source>
+        <translation>Oszilloskop</translation>
+    </message>
+    <message>
+        <source>Sixteen channels at 1 kHz</source>
+        <translation>Sechzehn Kanäle mit 1 kHz</translation>
+    </message>
+    <message>
+        <source>Synthetic sine, square, sawtooth and noisy signals arrive every 20 ms and the plot is redrawn 30 times a second. Channel 1 sweeps from a rising edge and channel 2 follows it; the others run free with the newest sample at the right edge. Choose a channel with the colour buttons, drag its zero line (left) or trigger level (right), and right-click for time base, amplification, trigger, colour and the clipboard exports.</source>
+        <translation>Synthetische Sinus-, Rechteck-, Sägezahn- und verrauschte Signale treffen alle 20 ms ein, und die Anzeige wird 30-mal pro Sekunde neu gezeichnet. Kanal 1 startet an einer steigenden Flanke, Kanal 2 folgt ihm; die übrigen laufen frei mit dem neuesten Wert am rechten Rand. Wählen Sie einen Kanal mit den Farbknöpfen, ziehen Sie seine Nulllinie (links) oder seinen Triggerpegel (rechts), und öffnen Sie mit der rechten Maustaste Zeitbasis, Verstärkung, Trigger, Farbe und die Exporte in die Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>&amp;Channels:</source>
+        <translation>&amp;Kanäle:</translation>
+    </message>
+    <message>
+        <source>Trigger &amp;level:</source>
+        <translation>Trigger&amp;pegel:</translation>
+    </message>
+    <message>
+        <source>Last signal:</source>
+        <translation>Letztes Signal:</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>noch keines</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::TranslationPage</name>
     <message>
         <source>Translation</source>

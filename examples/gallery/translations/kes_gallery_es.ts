@@ -204,6 +204,37 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::ScopePage</name>
+    <message>
+        <source>Scope</source>
+        <translation>Osciloscopio</translation>
+    </message>
+    <message>
+        <source>Sixteen channels at 1 kHz</source>
+        <translation>Dieciséis canales a 1 kHz</translation>
+    </message>
+    <message>
+        <source>Synthetic sine, square, sawtooth and noisy signals arrive every 20 ms and the plot is redrawn 30 times a second. Channel 1 sweeps from a rising edge and channel 2 follows it; the others run free with the newest sample at the right edge. Choose a channel with the colour buttons, drag its zero line (left) or trigger level (right), and right-click for time base, amplification, trigger, colour and the clipboard exports.</source>
+        <translation>Señales sintéticas senoidales, cuadradas, en diente de sierra y con ruido llegan cada 20 ms y el gráfico se redibuja 30 veces por segundo. El canal 1 barre desde un flanco ascendente y el canal 2 lo sigue; los demás corren libres con la muestra más reciente en el borde derecho. Elija un canal con los botones de color, arrastre su línea de cero (izquierda) o su nivel de disparo (derecha) y haga clic con el botón derecho para la base de tiempo, la amplificación, el disparo, el color y las exportaciones al portapapeles.</translation>
+    </message>
+    <message>
+        <source>&amp;Channels:</source>
+        <translation>&amp;Canales:</translation>
+    </message>
+    <message>
+        <source>Trigger &amp;level:</source>
+        <translation>&amp;Nivel de disparo:</translation>
+    </message>
+    <message>
+        <source>Last signal:</source>
+        <translation>Última señal:</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>ninguna todavía</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::TranslationPage</name>
     <message>
         <source>Translation</source>

@@ -204,6 +204,37 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::ScopePage</name>
+    <message>
+        <source>Scope</source>
+        <translation>Oscilloscope</translation>
+    </message>
+    <message>
+        <source>Sixteen channels at 1 kHz</source>
+        <translation>Seize canaux à 1 kHz</translation>
+    </message>
+    <message>
+        <source>Synthetic sine, square, sawtooth and noisy signals arrive every 20 ms and the plot is redrawn 30 times a second. Channel 1 sweeps from a rising edge and channel 2 follows it; the others run free with the newest sample at the right edge. Choose a channel with the colour buttons, drag its zero line (left) or trigger level (right), and right-click for time base, amplification, trigger, colour and the clipboard exports.</source>
+        <translation>Des signaux synthétiques sinusoïdaux, carrés, en dents de scie et bruités arrivent toutes les 20 ms et le tracé est redessiné 30 fois par seconde. Le canal 1 balaie à partir d’un front montant et le canal 2 le suit ; les autres défilent librement, l’échantillon le plus récent au bord droit. Choisissez un canal avec les boutons de couleur, faites glisser sa ligne zéro (à gauche) ou son niveau de déclenchement (à droite), et cliquez avec le bouton droit pour la base de temps, l’amplification, le déclenchement, la couleur et les exports vers le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>&amp;Channels:</source>
+        <translation>&amp;Canaux :</translation>
+    </message>
+    <message>
+        <source>Trigger &amp;level:</source>
+        <translation>&amp;Niveau de déclenchement :</translation>
+    </message>
+    <message>
+        <source>Last signal:</source>
+        <translation>Dernier signal :</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>aucun pour l’instant</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::TranslationPage</name>
     <message>
         <source>Translation</source>

@@ -50,6 +50,76 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::scope::ChannelMenu</name>
+    <message>
+        <source>All channels</source>
+        <translation>Alle Kanäle</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>Deaktivieren</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Amplification</source>
+        <translation>Verstärkung</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Trigger</translation>
+    </message>
+    <message>
+        <source>%1ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 / Div</source>
+        <translation>%1 / Div</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Rising edge</source>
+        <translation>Steigende Flanke</translation>
+    </message>
+    <message>
+        <source>Falling edge</source>
+        <translation>Fallende Flanke</translation>
+    </message>
+    <message>
+        <source>Set color</source>
+        <translation>Farbe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::scope::View</name>
+    <message>
+        <source>Enable %1</source>
+        <translation>%1 aktivieren</translation>
+    </message>
+    <message>
+        <source>Copy as Image</source>
+        <translation>Als Bild kopieren</translation>
+    </message>
+    <message>
+        <source>Copy as Data</source>
+        <translation>Als Daten kopieren</translation>
+    </message>
+    <message>
+        <source>Ch%1  %2/XDiv  %3/YDiv</source>
+        <translation>K%1  %2/XDiv  %3/YDiv</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::translation::Menu</name>
     <message>
         <source>&amp;Languages</source>

@@ -50,6 +50,76 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::scope::ChannelMenu</name>
+    <message>
+        <source>All channels</source>
+        <translation>Todos los canales</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Activar</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>Desactivar</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Amplification</source>
+        <translation>Amplificación</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>%1ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 / Div</source>
+        <translation>%1 / div</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Apagado</translation>
+    </message>
+    <message>
+        <source>Rising edge</source>
+        <translation>Flanco ascendente</translation>
+    </message>
+    <message>
+        <source>Falling edge</source>
+        <translation>Flanco descendente</translation>
+    </message>
+    <message>
+        <source>Set color</source>
+        <translation>Elegir color</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::scope::View</name>
+    <message>
+        <source>Enable %1</source>
+        <translation>Activar %1</translation>
+    </message>
+    <message>
+        <source>Copy as Image</source>
+        <translation>Copiar como imagen</translation>
+    </message>
+    <message>
+        <source>Copy as Data</source>
+        <translation>Copiar como datos</translation>
+    </message>
+    <message>
+        <source>Ch%1  %2/XDiv  %3/YDiv</source>
+        <translation>Can%1  %2/XDiv  %3/YDiv</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::translation::Menu</name>
     <message>
         <source>&amp;Languages</source>

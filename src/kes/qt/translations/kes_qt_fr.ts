@@ -50,6 +50,76 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::scope::ChannelMenu</name>
+    <message>
+        <source>All channels</source>
+        <translation>Tous les canaux</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Activer</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>Désactiver</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>Amplification</source>
+        <translation>Amplification</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Déclenchement</translation>
+    </message>
+    <message>
+        <source>%1ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 / Div</source>
+        <translation>%1 / div</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Rising edge</source>
+        <translation>Front montant</translation>
+    </message>
+    <message>
+        <source>Falling edge</source>
+        <translation>Front descendant</translation>
+    </message>
+    <message>
+        <source>Set color</source>
+        <translation>Choisir la couleur</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::scope::View</name>
+    <message>
+        <source>Enable %1</source>
+        <translation>Activer %1</translation>
+    </message>
+    <message>
+        <source>Copy as Image</source>
+        <translation>Copier comme image</translation>
+    </message>
+    <message>
+        <source>Copy as Data</source>
+        <translation>Copier comme données</translation>
+    </message>
+    <message>
+        <source>Ch%1  %2/XDiv  %3/YDiv</source>
+        <translation>Can%1  %2/XDiv  %3/YDiv</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::translation::Menu</name>
     <message>
         <source>&amp;Languages</source>

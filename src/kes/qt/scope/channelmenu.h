@@ -1,0 +1,76 @@
+#ifndef KES_QT_SCOPE_CHANNELMENU_H
+#define KES_QT_SCOPE_CHANNELMENU_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QMenu>
+#include <QVector>
+
+class QAction;
+class QSignalMapper;
+
+namespace kes::qt::scope {
+
+class View;
+
+/// The submenu of a View's context menu that edits one channel, or every shown channel at once
+/// ("All channels", channel -1): enable or disable it, its time and amplification scales, its
+/// trigger and its colour. Each change goes through the view's setters and is reported by the
+/// menu's own signal, which the view forwards.
+///
+/// Choosing a channel as trigger in "All channels" applies it to every other shown channel: a
+/// channel cannot follow itself.
+class KES_QT_EXPORT ChannelMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    /// \a view is not owned and must outlive the menu.
+    ChannelMenu(int channel, View* view);
+    ~ChannelMenu() override;
+
+    int channel() const { return m_channel; }
+
+public Q_SLOTS:
+    void translate();
+
+Q_SIGNALS:
+    void triggerChanged(int channel, int trigger);
+    void channelEnabled(int channel, bool enable);
+    void xscaleChanged(int channel, qreal scale);
+    void yscaleChanged(int channel, qreal scale);
+    void colorChanged(int channel, quint32 color);
+
+private Q_SLOTS:
+    void on_enable_channel();
+    void on_disable_channel();
+    void on_xscale(int value);
+    void on_yscale(int value);
+    void on_trigger(int trigger);
+    void on_color();
+
+private:
+    /// The channels a slot applies to: this one, or every shown one.
+    QVector<int> targets() const;
+
+    int m_channel;
+    View* m_view;
+    QSignalMapper* m_xscaleMapper;
+    QSignalMapper* m_yscaleMapper;
+    QSignalMapper* m_triggerMapper;
+    QAction* m_enable = nullptr;
+    QAction* m_disable = nullptr;
+    QMenu* m_timeMenu = nullptr;
+    QMenu* m_amplificationMenu = nullptr;
+    QMenu* m_triggerMenu = nullptr;
+    QVector<QAction*> m_timeActions;
+    QVector<QAction*> m_amplificationActions;
+    QAction* m_triggerOff = nullptr;
+    QAction* m_triggerRising = nullptr;
+    QAction* m_triggerFalling = nullptr;
+    QAction* m_color = nullptr;
+};
+
+} // namespace kes::qt::scope
+
+#endif

@@ -1,0 +1,484 @@
+// Geometry, value mapping, drawing and mouse interaction of the scope view.
+#include <kes/qt/scope/view.h>
+
+#include "kestest.h"
+
+#include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QRandomGenerator>
+#include <QPushButton>
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+using kes::qt::scope::Trigger_t;
+using kes::qt::scope::TriggerOff;
+using kes::qt::scope::TriggerRisingEdge;
+using kes::qt::scope::View;
+
+namespace {
+
+// A view of the smallest size, shown so that it receives mouse events.
+void showSmall(View& view)
+{
+    view.resize(320, 240);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QCOMPARE(view.size(), QSize(320, 240));
+}
+
+void moveMouse(View& view, const QPoint& pos)
+{
+    QMouseEvent move(QEvent::MouseMove, pos, view.mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&view, &move);
+}
+
+QVector<int> rowsInColumn(const QImage& image, int x, const QColor& color, int top, int bottom)
+{
+    QVector<int> rows;
+    for (int y = top; y <= bottom; ++y) {
+        if (image.pixelColor(x, y) == color)
+            rows.append(y);
+    }
+    return rows;
+}
+
+// What the view is to show: the grid, the markers and every segment of every curve drawn one at a
+// time, from the view's own mapping.
+QImage everySegment(View& view)
+{
+    const QRect plot = view.plotRect();
+    QPixmap pixmap(view.size());
+    pixmap.fill(view.palette().color(view.backgroundRole()));
+    QPainter painter(&pixmap);
+    view.drawGrid(&painter);
+    view.drawArrows(&painter);
+    for (int i = 0; i < view.numChannels(); ++i) {
+        const auto& c = view.channel(i);
+        if (!c.enabled || c.points.isEmpty())
+            continue;
+        painter.setPen(QPen(c.color, 1));
+        const bool reverse = !c.triggered;
+        const double origin = reverse ? c.points.constLast().x() : c.points.constFirst().x();
+        QVector<QPointF> path;
+        for (int k = 0; k < c.points.size(); ++k) {
+            const QPointF& p = c.points.at(reverse ? c.points.size() - 1 - k : k);
+            const double px = reverse ? plot.right() - (origin - p.x()) * c.xPixelsPerUnit
+                                      : plot.left() + (p.x() - origin) * c.xPixelsPerUnit;
+            if (px > plot.right())
+                break;
+            path.append(QPointF(px, view.yValue2pixel(c, p.y())));
+        }
+        if (path.size() == c.points.size()) {
+            const double zero = view.yValue2pixel(c, 0.0);
+            path.append(QPointF(path.constLast().x(), zero));
+            path.append(QPointF(reverse ? plot.left() : plot.right(), zero));
+        }
+        for (int k = 1; k < path.size(); ++k)
+            painter.drawLine(QLineF(path.at(k - 1), path.at(k)));
+    }
+    return pixmap.toImage();
+}
+
+} // namespace
+
+class tst_View : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void geometryOfTheSmallestView();
+    void mapsValuesToRows_data();
+    void mapsValuesToRows();
+    void setNumChannels_data();
+    void setNumChannels();
+    void buttonsSelectTheCurrentChannel();
+    void disablingTheCurrentChannelSelectsNone();
+    void setYScaleResetsTheOffsetSilently();
+    void dragsMarkers_data();
+    void dragsMarkers();
+    void drawsTheCurveWhereTheMappingSays();
+    void sweepEndsOnTheZeroLine_data();
+    void sweepEndsOnTheZeroLine();
+    void freeRunningTrimsToOneScreen();
+    void drawsEverySegment_data();
+    void drawsEverySegment();
+    void survivesBadInput_data();
+    void survivesBadInput();
+};
+
+void tst_View::geometryOfTheSmallestView()
+{
+    View view;
+    showSmall(view);
+    QCOMPARE(view.plotRect(), QRect(QPoint(27, 2), QPoint(308, 227)));
+    QCOMPARE(view.yCentre(), 114);
+    QCOMPARE(view.channel(0).xPixelsPerUnit, 282 * (1.0 / 1000.0));
+    QCOMPARE(view.channel(0).yPixelsPerUnit, 226 * (1.0 / 10.0));
+    QCOMPARE(view.pixmap().size(), QSize(320, 240));
+    QCOMPARE(view.minimumSize(), QSize(320, 240));
+}
+
+void tst_View::mapsValuesToRows_data()
+{
+    QTest::addColumn<double>("yScale");
+    QTest::addColumn<double>("offset");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("row");
+
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double inf = std::numeric_limits<double>::infinity();
+    QTest::newRow("zero") << 1.0 << 0.0 << 0.0 << 114;
+    QTest::newRow("one, truncated") << 1.0 << 0.0 << 1.0 << 91;
+    QTest::newRow("minus one, truncated") << 1.0 << 0.0 << -1.0 << 136;
+    QTest::newRow("offset moves up") << 1.0 << 0.5 << 0.5 << 91;
+    QTest::newRow("scale 2") << 2.0 << 0.0 << 2.0 << 91;
+    QTest::newRow("far above") << 1.0 << 0.0 << 1e9 << 2;
+    QTest::newRow("far below") << 1.0 << 0.0 << -1e9 << 227;
+    QTest::newRow("beyond int") << 1.0 << 0.0 << -1e300 << 227;
+    QTest::newRow("infinity") << 1.0 << 0.0 << inf << 2;
+    QTest::newRow("NaN") << 1.0 << 0.0 << nan << 2;
+}
+
+void tst_View::mapsValuesToRows()
+{
+    QFETCH(double, yScale);
+    QFETCH(double, offset);
+    QFETCH(double, value);
+
+    View view;
+    showSmall(view);
+    view.setYScale(0, yScale);
+    view.setYOffset(0, offset);
+    QTEST(view.yValue2pixel(view.channel(0), value), "row");
+}
+
+void tst_View::setNumChannels_data()
+{
+    QTest::addColumn<int>("current");
+    QTest::addColumn<int>("n");
+    QTest::addColumn<int>("shown");
+    QTest::addColumn<int>("currentAfter");
+
+    QTest::newRow("20 shows all") << 0 << 20 << 16 << 0;
+    QTest::newRow("2 while 3 is current") << 3 << 2 << 2 << -1;
+    QTest::newRow("2 while 1 is current") << 1 << 2 << 2 << 1;
+    QTest::newRow("negative") << 0 << -3 << 0 << -1;
+}
+
+void tst_View::setNumChannels()
+{
+    QFETCH(int, current);
+    QFETCH(int, n);
+    QFETCH(int, shown);
+
+    View view;
+    view.setNumChannels(16);
+    for (int i = 0; i < 16; ++i)
+        view.addPoint(i, 0, 1.0);
+    view.setCurrentChannel(current);
+
+    view.setNumChannels(n);
+    QCOMPARE(view.numChannels(), shown);
+    QTEST(view.currentChannel(), "currentAfter");
+    for (int i = 0; i < 16; ++i) {
+        const auto* button = view.findChild<QPushButton*>(QStringLiteral("channelButton%1").arg(i));
+        QVERIFY(button);
+        QCOMPARE(button->isVisibleTo(&view), i < shown);
+        QCOMPARE(view.channel(i).points.size(), i < shown ? 1 : 0);
+        QCOMPARE(button->isChecked(), i == view.currentChannel());
+    }
+}
+
+void tst_View::buttonsSelectTheCurrentChannel()
+{
+    View view;
+    showSmall(view);
+    auto* button = view.findChild<QPushButton*>(QStringLiteral("channelButton2"));
+    QVERIFY(button);
+    QCOMPARE(button->toolTip(), QStringLiteral("Channel 3 100/XDiv  1/YDiv"));
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(view.currentChannel(), 2);
+    QVERIFY(button->isChecked());
+
+    view.setXScale(2, 0.5);
+    QCOMPARE(button->toolTip(), QStringLiteral("Channel 3 0.5/XDiv  1/YDiv"));
+
+    view.setCurrentChannel(-1);
+    QVERIFY(!button->isChecked());
+    QVERIFY(!view.findChild<QPushButton*>(QStringLiteral("channelButton0"))->isChecked());
+}
+
+void tst_View::disablingTheCurrentChannelSelectsNone()
+{
+    View view;
+    QSignalSpy enabled(&view, SIGNAL(channelEnabled(int, bool)));
+    view.setChannelEnabled(0, false);
+    QCOMPARE(view.currentChannel(), -1);
+    QVERIFY(!view.findChild<QPushButton*>(QStringLiteral("channelButton0"))->isEnabled());
+    QVERIFY(enabled.isEmpty());
+}
+
+void tst_View::setYScaleResetsTheOffsetSilently()
+{
+    View view;
+    QSignalSpy offsets(&view, SIGNAL(yOffsetChanged(int, double)));
+    view.setYOffset(1, 2.5);
+    view.setYScale(1, 5.0);
+    QCOMPARE(view.channel(1).yOffset, 0.0);
+    QCOMPARE(view.channel(1).yScale, 5.0);
+    QVERIFY(offsets.isEmpty());
+}
+
+void tst_View::dragsMarkers_data()
+{
+    QTest::addColumn<bool>("triggerMarker");
+    QTest::addColumn<int>("toRow");
+    QTest::addColumn<bool>("moved");
+
+    // The zero-line marker's tip is at (27, 114), the trigger marker's at (308, 114 - 0.4 * 22.6).
+    QTest::newRow("offset up 20") << false << 94 << true;
+    QTest::newRow("offset down 30") << false << 144 << true;
+    QTest::newRow("offset to the last free row") << false << 11 << true;
+    QTest::newRow("offset into the top band") << false << 10 << false;
+    QTest::newRow("offset into the bottom band") << false << 219 << false;
+    QTest::newRow("trigger up 20") << true << 84 << true;
+    QTest::newRow("trigger to the lowest free row") << true << 218 << true;
+    QTest::newRow("trigger into the top band") << true << 3 << false;
+}
+
+void tst_View::dragsMarkers()
+{
+    QFETCH(bool, triggerMarker);
+    QFETCH(int, toRow);
+    QFETCH(bool, moved);
+
+    View view;
+    showSmall(view);
+    view.setCurrentChannel(1);
+    view.setTrigger(1, TriggerRisingEdge);
+    view.setTriggerPosition(1, 0.4);
+    QSignalSpy offsets(&view, SIGNAL(yOffsetChanged(int, double)));
+    QSignalSpy levels(&view, SIGNAL(triggerPositionChanged(int, double)));
+
+    const double perUnit = view.channel(1).yPixelsPerUnit;
+    const int fromRow = triggerMarker ? view.yValue2pixel(view.channel(1), 0.4) : 114;
+    const QPoint from = triggerMarker ? QPoint(312, fromRow) : QPoint(22, fromRow);
+    QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, from);
+    moveMouse(view, QPoint(from.x(), toRow));
+    QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, QPoint(from.x(), toRow));
+    // After the release, moves drag nothing.
+    moveMouse(view, QPoint(from.x(), 50));
+
+    QSignalSpy& spy = triggerMarker ? levels : offsets;
+    QSignalSpy& other = triggerMarker ? offsets : levels;
+    QVERIFY(other.isEmpty());
+    if (!moved) {
+        QVERIFY(spy.isEmpty());
+        QCOMPARE(view.channel(1).yOffset, 0.0);
+        QCOMPARE(view.channel(1).triggerPosition, 0.4);
+        return;
+    }
+    QCOMPARE(spy.size(), 1);
+    const double expected = (triggerMarker ? 0.4 : 0.0) + (fromRow - toRow) / perUnit;
+    QCOMPARE(spy.at(0).at(0).toInt(), 1);
+    QCOMPARE(spy.at(0).at(1).toDouble(), expected);
+    QCOMPARE(triggerMarker ? view.channel(1).triggerPosition : view.channel(1).yOffset, expected);
+    // The marker follows the pointer.
+    const QPolygonF& arrow = triggerMarker ? view.channel(1).triggerArrow : view.channel(1).offsetArrow;
+    QVERIFY(std::abs(arrow.boundingRect().center().y() - toRow) <= 1.0);
+}
+
+void tst_View::drawsTheCurveWhereTheMappingSays()
+{
+    View view;
+    showSmall(view);
+    view.setCurrentChannel(-1);
+    view.setColor(1, Qt::blue);
+    // Half a screen of a slope from -2 to 3 on channel 1, free running.
+    for (int i = 0; i <= 50; ++i)
+        view.addPoint(1, i * 10.0, -2.0 + i * 0.1);
+    view.redraw();
+    const QImage image = view.pixmap().toImage();
+    const auto& c = view.channel(1);
+
+    for (int i : {1, 10, 25, 49}) {
+        const int x = int(27 + i * 10.0 * c.xPixelsPerUnit);
+        const QVector<int> rows = rowsInColumn(image, x, Qt::blue, 2, 227);
+        QVERIFY2(!rows.isEmpty(), qPrintable(QString::number(i)));
+        const int expected = view.yValue2pixel(c, -2.0 + i * 0.1);
+        QVERIFY2(rows.first() - 3 <= expected && expected <= rows.last() + 3,
+                 qPrintable(QStringLiteral("point %1 at row %2, drawn %3 to %4")
+                                .arg(i).arg(expected).arg(rows.first()).arg(rows.last())));
+    }
+}
+
+void tst_View::sweepEndsOnTheZeroLine_data()
+{
+    QTest::addColumn<double>("span");
+    QTest::addColumn<bool>("zeroLine");
+
+    QTest::newRow("within the plot") << 500.0 << true;
+    QTest::newRow("wider than the plot") << 1500.0 << false;
+}
+
+void tst_View::sweepEndsOnTheZeroLine()
+{
+    QFETCH(double, span);
+    QFETCH(bool, zeroLine);
+
+    View view;
+    showSmall(view);
+    view.setCurrentChannel(-1);
+    view.setTrigger(0, TriggerRisingEdge);
+    view.setTriggerPosition(0, 1.5);
+    view.setYOffset(0, 1.0);
+    for (double x : {0.0, span / 2, span})
+        view.addPoint(0, x, 2.0);
+    view.redraw();
+    const QImage image = view.pixmap().toImage();
+    const int zero = view.yValue2pixel(view.channel(0), 0.0);
+    const int row = view.yValue2pixel(view.channel(0), 2.0);
+    QCOMPARE(zero, 91);
+    QCOMPARE(row, 46);
+
+    // The sweep stops at the last point within the plot.
+    const int lastDrawn = int(27 + (zeroLine ? span : span / 2) * 0.282);
+    QCOMPARE(image.pixelColor(lastDrawn - 5, row), QColor(Qt::red));
+    QCOMPARE(image.pixelColor(lastDrawn + 5, row) == QColor(Qt::red), false);
+    QCOMPARE(image.pixelColor(lastDrawn, (row + zero) / 2) == QColor(Qt::red), zeroLine);
+    for (int x : {lastDrawn + 5, 300})
+        QCOMPARE(image.pixelColor(x, zero) == QColor(Qt::red), zeroLine);
+}
+
+void tst_View::freeRunningTrimsToOneScreen()
+{
+    View view;
+    showSmall(view);
+    for (int i = 0; i <= 3000; ++i)
+        view.addPoint(0, i, std::sin(i * 0.01));
+    QCOMPARE(view.channel(0).points.size(), 3001);
+    view.redraw();
+    // 282 pixels hold 1000 units: the oldest point kept is the first within that span.
+    const auto& points = view.channel(0).points;
+    QCOMPARE(points.constLast().x(), 3000.0);
+    QVERIFY2(points.constFirst().x() >= 2000.0 && points.constFirst().x() <= 2001.0,
+             qPrintable(QString::number(points.constFirst().x())));
+
+    // Triggered channels keep their samples (these stay below the level).
+    const int kept = points.size();
+    view.setTrigger(0, TriggerRisingEdge);
+    for (int i = 3001; i <= 5000; ++i)
+        view.addPoint(0, i, -1.0);
+    view.redraw();
+    QCOMPARE(view.channel(0).points.size(), kept + 2000);
+}
+
+// Curves drawn from fewer points where a pixel column holds many must look exactly as if every
+// segment were drawn.
+void tst_View::drawsEverySegment_data()
+{
+    QTest::addColumn<bool>("triggered");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<double>("noise");
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QSize>("size");
+
+    const QColor opaque(Qt::darkBlue);
+    const QColor translucent(0, 0, 255, 128);
+    QTest::newRow("sweep, 30 per column") << true << 10000 << 2.0 << opaque << QSize(400, 300);
+    QTest::newRow("sweep, 8 per column") << true << 10000 << 2.0 << opaque << QSize(1280, 720);
+    QTest::newRow("sweep, 2 per column") << true << 2000 << 2.0 << opaque << QSize(1000, 500);
+    QTest::newRow("sweep, quiet") << true << 10000 << 0.02 << opaque << QSize(800, 400);
+    QTest::newRow("sweep, clipped") << true << 10000 << 30.0 << opaque << QSize(640, 480);
+    QTest::newRow("free running, noisy") << false << 12000 << 2.0 << opaque << QSize(900, 600);
+    QTest::newRow("free running, quiet") << false << 12000 << 0.05 << opaque << QSize(700, 300);
+    QTest::newRow("translucent") << true << 10000 << 2.0 << translucent << QSize(500, 300);
+}
+
+void tst_View::drawsEverySegment()
+{
+    QFETCH(bool, triggered);
+    QFETCH(int, count);
+    QFETCH(double, noise);
+    QFETCH(QColor, color);
+    QFETCH(QSize, size);
+
+    View view;
+    view.resize(size);
+    view.setNumChannels(3);
+    QRandomGenerator random(uint(count + size.width()));
+    for (int c = 0; c < 3; ++c) {
+        view.setColor(c, c == 1 ? color : QColor(Qt::red));
+        view.setYScale(c, 0.5 + c);
+    }
+    // Free-running channels are trimmed and drawn from the right only by the refresh that finds
+    // them wider than the plot: all of them at once, by the redraw below.
+    for (int c = 0; c < 3; ++c) {
+        // Samples at uneven times, some repeated, over one screen (1000 units).
+        double x = 0.0;
+        for (int i = 0; i < count; ++i) {
+            x += (i % 97 == 0) ? 0.0 : random.bounded(2.0 * 1000.0 / count);
+            const double y = std::sin(x * 0.02 * (c + 1)) + noise * (random.generateDouble() - 0.5);
+            view.addPoint(c, x * (triggered ? 1.0 : 1.2), y);
+        }
+        if (triggered)
+            view.setTrigger(c, TriggerRisingEdge);
+    }
+    view.redraw();
+    const QImage drawn = view.pixmap().toImage();
+    const QImage expected = everySegment(view);
+    QCOMPARE(drawn.size(), expected.size());
+    int differing = 0;
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x)
+            differing += drawn.pixel(x, y) != expected.pixel(x, y);
+    }
+    QCOMPARE(differing, 0);
+}
+
+void tst_View::survivesBadInput_data()
+{
+    QTest::addColumn<bool>("triggered");
+    QTest::addColumn<double>("xScale");
+    QTest::addColumn<double>("yScale");
+
+    QTest::newRow("sweep") << true << 100.0 << 1.0;
+    QTest::newRow("free running") << false << 100.0 << 1.0;
+    QTest::newRow("zero scales, sweep") << true << 0.0 << 0.0;
+    QTest::newRow("zero scales, free running") << false << 0.0 << 0.0;
+    QTest::newRow("tiny x scale") << true << 1e-300 << 1e300;
+    QTest::newRow("NaN scales") << false << std::nan("") << std::nan("");
+}
+
+void tst_View::survivesBadInput()
+{
+    QFETCH(bool, triggered);
+    QFETCH(double, xScale);
+    QFETCH(double, yScale);
+
+    const double inf = std::numeric_limits<double>::infinity();
+    View view;
+    view.setCurrentChannel(0);
+    view.setTrigger(0, triggered ? TriggerRisingEdge : TriggerOff);
+    view.setTriggerPosition(0, std::nan(""));
+    view.setXScale(0, xScale);
+    view.setYScale(0, yScale);
+    view.setYOffset(0, -inf);
+    const QVector<QPointF> samples{{0, 1},      {1e300, -1e300}, {-1e300, inf}, {inf, 0},
+                                   {5, std::nan("")}, {-inf, 2},     {6, -inf},     {7, 1}};
+    for (const QPointF& p : samples)
+        view.addPoint(0, p.x(), p.y());
+    view.redraw();
+    QVERIFY(view.channel(0).points.size() <= samples.size());
+    // Time neither infinite nor NaN: every stored sample has a finite x.
+    for (const QPointF& p : view.channel(0).points)
+        QVERIFY(std::isfinite(p.x()));
+}
+
+KES_TEST_MAIN(tst_View)
+#include "tst_view.moc"
