@@ -58,7 +58,8 @@ public:
 
     /// Reads the language list file \a fileInfo and sets everything up. False, with nothing
     /// changed, when the file cannot be read or its document element is not "translations". A
-    /// second call adds the new languages and loads the translators of all languages again.
+    /// second call adds the new languages and loads the translators of all languages again. XML that
+    /// breaks off is not refused for that alone: the languages read before the break count.
     bool load(const QFileInfo& fileInfo);
 
     /// A translator with the manager as parent loaded from \a path, or null when it does not load.
