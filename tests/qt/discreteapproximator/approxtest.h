@@ -1,8 +1,7 @@
 #ifndef KES_TESTS_DISCRETEAPPROXIMATOR_APPROXTEST_H
 #define KES_TESTS_DISCRETEAPPROXIMATOR_APPROXTEST_H
 
-// Shared by the discrete approximator's tests: points as test data and in failure messages, and
-// right-click menus opened for real.
+// Points as test data and in failure messages, and right-click menus opened for real.
 
 #include <kes/core/pointf.h>
 #include <kes/core/vector.h>

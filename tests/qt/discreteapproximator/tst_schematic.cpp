@@ -108,22 +108,29 @@ private Q_SLOTS:
         QFETCH(PointF, data);
         QFETCH(QPointF, scene);
 
-        const Graph graph;
-        QCOMPARE(graph.schematic.xScale(), 75.0);
-        QCOMPARE(graph.schematic.yScale(), 11.5);
-        QCOMPARE(graph.schematic.toSceneCoords(data), scene);
-        QCOMPARE(graph.schematic.toDataCoords(scene), data);
-        QCOMPARE(graph.schematic.sceneRect(), QRectF(0, 0, 400, 300));
+        Graph graph;
+        Scene& schematic = graph.schematic;
+        QCOMPARE(schematic.xScale(), 75.0);
+        QCOMPARE(schematic.yScale(), 11.5);
+        QCOMPARE(schematic.toSceneCoords(data), scene);
+        QCOMPARE(schematic.toDataCoords(scene), data);
+        QCOMPARE(schematic.sceneRect(), QRectF(0, 0, 400, 300));
+        schematic.setPoint(data);
+        QCOMPARE(schematic.cross()->pos(), scene);
     }
 
     void capsScaleForZeroRange()
     {
         Graph graph(Points{{3.0, -2.0}});
         Scene& schematic = graph.schematic;
+        schematic.setPoint(PointF{3.0, -2.0});
         schematic.setViewSize(QSize(300, 200));
         QCOMPARE(schematic.xScale(), Scene::maximumScale);
         QCOMPARE(schematic.yScale(), Scene::maximumScale);
         QCOMPARE(schematic.points().first()->pos(), QPointF(50.0, 170.0));
+        // The operating point's cross follows a change of scale.
+        QCOMPARE(schematic.cross()->pos(), QPointF(50.0, 170.0));
+        QCOMPARE(schematic.cross()->labelText(), QStringLiteral("(3,-2)"));
         verifyLayout(schematic);
 
         // A tiny range is capped too; an ordinary one is not.
@@ -142,8 +149,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<Change>("change");
 
-        QTest::newRow("insert before the first") << Change([](Model& m) { m.insertPointBefore(0); });
-        QTest::newRow("insert after the last") << Change([](Model& m) { m.insertPointAfter(4); });
+        QTest::newRow("insert before first") << Change([](Model& m) { m.insertPointBefore(0); });
+        QTest::newRow("insert after last") << Change([](Model& m) { m.insertPointAfter(4); });
         QTest::newRow("insert between") << Change([](Model& m) { m.insertPointAfter(1); });
         QTest::newRow("insert at a data position")
             << Change([](Model& m) { m.insertPoint(PointF{2.5, 7.0}); });
@@ -226,24 +233,6 @@ private Q_SLOTS:
         }
     }
 
-    void marksOperatingPoint()
-    {
-        Graph graph;
-        Scene& schematic = graph.schematic;
-        QVERIFY(!schematic.cross()->isVisible());
-        schematic.setPoint(PointF{2.0, 10.0});
-        schematic.setShowPointEnabled(true);
-        QVERIFY(schematic.cross()->isVisible());
-        QCOMPARE(schematic.cross()->pos(), QPointF(200.0, 155.0));
-        QCOMPARE(schematic.cross()->labelText(), QStringLiteral("(2,10)"));
-
-        // The cross stays on its data point when the scale changes.
-        schematic.setViewSize(QSize(500, 300));
-        QCOMPARE(schematic.cross()->pos(), schematic.toSceneCoords(PointF{2.0, 10.0}));
-        schematic.setShowPointEnabled(false);
-        QVERIFY(!schematic.cross()->isVisible());
-    }
-
     void followsSelection()
     {
         Graph graph;
@@ -313,13 +302,14 @@ private Q_SLOTS:
         QTest::addColumn<int>("selected");
 
         const QStringList listEntries{"-", "Import from clipboard (off)", "Export to clipboard"};
+        const QStringList pointEntries{"Insert point before", "Insert point after", "Remove point"};
         // Data (2.6, 4.0): the new point goes where the click was.
         QTest::newRow("empty space")
             << QPointF(245.0, 224.0) << "Insert point" << QStringList{"Insert point"} + listEntries
             << Points{{0, 0}, {1, 5}, {2, 20}, {2.6, 4}, {3, 10}, {4, 15}} << -1;
         QTest::newRow("point 3")
             << QPointF(275.0, 155.0) << "Remove point"
-            << QStringList{"Insert point before", "Insert point after", "Remove point"} + listEntries
+            << pointEntries + listEntries
             << Points{{0, 0}, {1, 5}, {2, 20}, {4, 15}} << 3;
     }
 
@@ -331,8 +321,8 @@ private Q_SLOTS:
         QGuiApplication::clipboard()->clear();
         Graph graph;
         QVERIFY(graph.show());
-        QTEST(kes::test::rightClickMenu(graph.view.viewport(), graph.view.mapFromScene(place), entry),
-              "entries");
+        const QPoint pos = graph.view.mapFromScene(place);
+        QTEST(kes::test::rightClickMenu(graph.view.viewport(), pos, entry), "entries");
         QTEST(graph.model.points(), "points");
         QTEST(graph.model.selectedRow(), "selected");
         verifyLayout(graph.schematic);

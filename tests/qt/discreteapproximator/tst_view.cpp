@@ -89,8 +89,8 @@ private Q_SLOTS:
         QTest::addColumn<Change>("change");
         QTest::addColumn<int>("signals");
 
-        QTest::newRow("same list again") << Change([](View& v, Model&) { v.setData(v.data()); }) << 0;
-        QTest::newRow("other list") << Change([](View& v, Model&) { v.setData({{0.0, 1.0}}); }) << 1;
+        QTest::newRow("same list") << Change([](View& v, Model&) { v.setData(v.data()); }) << 0;
+        QTest::newRow("other list") << Change([](View& v, Model&) { v.setData({{0, 1}}); }) << 1;
         QTest::newRow("empty list") << Change([](View& v, Model&) { v.setData({}); }) << 1;
         QTest::newRow("accepted cell edit")
             << Change([](View&, Model& m) { m.setData(m.index(3, 1), 0.5); }) << 1;
