@@ -13,8 +13,6 @@
 #include <QTimer>
 #include <QtTest>
 
-#include <memory>
-
 Q_DECLARE_METATYPE(kes::core::PointF)
 Q_DECLARE_METATYPE(kes::core::Vector<kes::core::PointF>)
 
@@ -59,31 +57,22 @@ inline void triggerEntry(QMenu* menu, const QString& text)
 }
 
 /// Right-clicks \a widget at \a pos; inside the modal loop of the popup menu that opens, triggers
-/// its entry \a entry, if any, and closes it. Returns the menu's entries, none if no menu opened
-/// within about two seconds.
+/// its entry \a entry, if any, and closes it. Returns the menu's entries, none if no menu opened.
 inline QStringList rightClickMenu(QWidget* widget, const QPoint& pos, const QString& entry = {})
 {
     QStringList entries;
-    auto done = std::make_shared<bool>(false);
-    auto tries = std::make_shared<int>(200);
-    auto* timer = new QTimer;
-    QObject::connect(timer, &QTimer::timeout, [&entries, entry, done, tries, timer] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        if (!menu && --*tries > 0)
-            return;
-        timer->stop();
-        timer->deleteLater();
-        *done = true;
-        if (menu) {
+    // Gone with this call, so that it never outlives the entries.
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            timer.stop();
             entries = menuEntries(menu);
             triggerEntry(menu, entry);
             menu->close();
         }
     });
-    timer->start(10);
+    timer.start(10);
     QTest::mouseClick(widget, Qt::RightButton, {}, pos);
-    // Never returns before the timer is done with the reference to the entries.
-    (void)QTest::qWaitFor([done] { return *done; }, 5000);
     return entries;
 }
 

@@ -151,12 +151,8 @@ private Q_SLOTS:
 
         QTest::newRow("insert before first") << Change([](Model& m) { m.insertPointBefore(0); });
         QTest::newRow("insert after last") << Change([](Model& m) { m.insertPointAfter(4); });
-        QTest::newRow("insert between") << Change([](Model& m) { m.insertPointAfter(1); });
-        QTest::newRow("insert at a data position")
-            << Change([](Model& m) { m.insertPoint(PointF{2.5, 7.0}); });
         QTest::newRow("remove the first") << Change([](Model& m) { m.removePoint(0); });
         QTest::newRow("remove the last") << Change([](Model& m) { m.removePoint(4); });
-        QTest::newRow("remove in the middle") << Change([](Model& m) { m.removePoint(2); });
         const Change clear = [](Model& m) {
             while (m.rowCount() > 0)
                 m.removePoint(0);
@@ -168,7 +164,6 @@ private Q_SLOTS:
         });
         QTest::newRow("replace the list")
             << Change([](Model& m) { m.setData(Points{{-1.0, 1.0}, {1.0, -1.0}}); });
-        QTest::newRow("edit a cell") << Change([](Model& m) { m.setData(m.index(3, 1), 30.0); });
     }
 
     void followsTableModel()

@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QPointer>
 
+#include <memory>
+
 using kes::qt::discreteapproximator::ContextMenu;
 using kes::qt::discreteapproximator::Model;
 using kes::qt::discreteapproximator::TableView;
@@ -93,16 +95,13 @@ private Q_SLOTS:
         QTest::addColumn<bool>("withHelp");
         QTest::addColumn<QStringList>("entries");
 
-        const QStringList list{entryImport, entryExport};
         const QString off = QStringLiteral(" (off)");
-        QTest::newRow("point") << threePoints << 1 << "1 2" << false << pointEntries;
         QTest::newRow("only point") << Points{{1.0, 1.0}} << 0 << "1 2" << false
                                     << QStringList{entryBefore, entryAfter, entryRemove + off,
                                                    separator, entryImport, entryExport};
         QTest::newRow("empty clipboard") << threePoints << 2 << "" << false
                                          << QStringList{entryBefore, entryAfter, entryRemove,
                                                         separator, entryImport + off, entryExport};
-        QTest::newRow("no point") << threePoints << -1 << "1 2" << false << list;
         QTest::newRow("no point, help") << threePoints << -1 << "" << true
                                         << QStringList{entryImport + off, entryExport, separator,
                                                        help};

@@ -96,11 +96,8 @@ private Q_SLOTS:
             << Change([](View&, Model& m) { m.setData(m.index(3, 1), 0.5); }) << 1;
         QTest::newRow("refused cell edit")
             << Change([](View&, Model& m) { m.setData(m.index(0, 0), -2.5); }) << 0;
-        QTest::newRow("move") << Change([](View&, Model& m) { m.movePoint(4, {-1.1, 0.0}); }) << 1;
         QTest::newRow("move to where it is")
             << Change([](View&, Model& m) { m.movePoint(4, m.points()[4]); }) << 0;
-        QTest::newRow("insertion") << Change([](View&, Model& m) { m.insertPointAfter(20); }) << 1;
-        QTest::newRow("removal") << Change([](View&, Model& m) { m.removePoint(7); }) << 1;
         QTest::newRow("clipboard import") << importing("1 2\n3 4") << 1;
         QTest::newRow("blank clipboard import") << importing(" \n\t ") << 0;
     }
