@@ -302,10 +302,9 @@ private Q_SLOTS:
         QTest::newRow("empty space")
             << QPointF(245.0, 224.0) << "Insert point" << QStringList{"Insert point"} + listEntries
             << Points{{0, 0}, {1, 5}, {2, 20}, {2.6, 4}, {3, 10}, {4, 15}} << -1;
-        QTest::newRow("point 3")
-            << QPointF(275.0, 155.0) << "Remove point"
-            << pointEntries + listEntries
-            << Points{{0, 0}, {1, 5}, {2, 20}, {4, 15}} << 3;
+        QTest::newRow("point 3") << QPointF(275.0, 155.0) << "Remove point"
+                                 << pointEntries + listEntries
+                                 << Points{{0, 0}, {1, 5}, {2, 20}, {4, 15}} << 3;
     }
 
     void rightClickOffersEntriesForPlace()
