@@ -246,6 +246,12 @@ private Q_SLOTS:
         graph.model.setSelectedPoint(-1, 0);
         for (const Point* point : graph.schematic.points())
             QVERIFY(!point->selected());
+
+        // A new list comes without a selection.
+        graph.model.setSelectedPoint(1, 0);
+        graph.model.setData(fivePoints);
+        for (const Point* point : graph.schematic.points())
+            QVERIFY(!point->selected());
     }
 
     void dragMovesPointAndRefusesCrossingNeighbour_data()
