@@ -163,8 +163,8 @@ private Q_SLOTS:
         view->resize(300, 250);
         parent.show();
         QVERIFY(QTest::qWaitForWindowExposed(&parent));
-        QWidget* viewport = view->currentIndex() == 0 ? view->graphicsView()->viewport()
-                                                      : view->tableView()->viewport();
+        QWidget* viewport =
+            tab == 0 ? view->graphicsView()->viewport() : view->tableView()->viewport();
         QVERIFY(!kes::test::rightClickMenu(viewport, QPoint(20, 10)).isEmpty());
         QCOMPARE(parent.requests, 0);
     }
