@@ -56,8 +56,9 @@ inline void triggerEntry(QMenu* menu, const QString& text)
     }
 }
 
-/// Right-clicks \a widget at \a pos; inside the modal loop of the popup menu that opens, triggers
-/// its entry \a entry, if any, and closes it. Returns the menu's entries, none if no menu opened.
+/// Right-clicks \a widget at \a pos through its window, as a user does, so that the context-menu
+/// request follows the press; inside the modal loop of the popup menu that opens, triggers its
+/// entry \a entry, if any, and closes it. Returns the menu's entries, none if no menu opened.
 inline QStringList rightClickMenu(QWidget* widget, const QPoint& pos, const QString& entry = {})
 {
     QStringList entries;
@@ -72,7 +73,8 @@ inline QStringList rightClickMenu(QWidget* widget, const QPoint& pos, const QStr
         }
     });
     timer.start(10);
-    QTest::mouseClick(widget, Qt::RightButton, {}, pos);
+    QWidget* window = widget->window();
+    QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, widget->mapTo(window, pos));
     return entries;
 }
 

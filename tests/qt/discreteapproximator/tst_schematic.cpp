@@ -14,6 +14,7 @@
 #include <QGuiApplication>
 
 #include <functional>
+#include <utility>
 
 using kes::core::PointF;
 using kes::qt::discreteapproximator::Model;
@@ -45,6 +46,10 @@ struct Graph
     {
         view.show();
         return QTest::qWaitForWindowExposed(&view);
+    }
+    QPoint windowPos(const QPointF& scenePos) const
+    {
+        return view.viewport()->mapTo(view.window(), view.mapFromScene(scenePos));
     }
 
     Model model;
@@ -241,6 +246,12 @@ private Q_SLOTS:
         graph.model.setSelectedPoint(-1, 0);
         for (const Point* point : graph.schematic.points())
             QVERIFY(!point->selected());
+
+        // A new list comes without a selection.
+        graph.model.setSelectedPoint(1, 0);
+        graph.model.setData(fivePoints);
+        for (const Point* point : graph.schematic.points())
+            QVERIFY(!point->selected());
     }
 
     void dragMovesPointAndRefusesCrossingNeighbour_data()
@@ -268,8 +279,7 @@ private Q_SLOTS:
         const QStringList rangeBefore = rangeTexts(schematic);
 
         QWindow* window = graph.view.window()->windowHandle();
-        const QPoint start = graph.view.viewport()->mapTo(graph.view.window(),
-                                                          graph.view.mapFromScene(200.0, 40.0));
+        const QPoint start = graph.windowPos(QPointF(200.0, 40.0));
         QTest::mousePress(window, Qt::LeftButton, {}, start);
         QCOMPARE(graph.model.selectedRow(), 2);
         QTest::mouseMove(window, start + offset / 2);
@@ -286,6 +296,37 @@ private Q_SLOTS:
         QCOMPARE(schematic.coordsystem()->rangeText(Coordsystem::YMaximum),
                  QString::number(p.y, 'g', 4));
         verifyLayout(schematic);
+    }
+
+    void dragSurvivesApplicationChangingPoints_data()
+    {
+        QTest::addColumn<Change>("answer");
+
+        QTest::newRow("replaced") << Change([](Model& m) { m.setData({{0.0, 0.0}, {1.0, 1.0}}); });
+        QTest::newRow("dragged one removed") << Change([](Model& m) { m.removePoint(2); });
+    }
+
+    void dragSurvivesApplicationChangingPoints()
+    {
+        QFETCH(Change, answer);
+
+        Graph graph;
+        QVERIFY(graph.show());
+        // The application answers the first step of the drag, while the point is still in it.
+        bool answered = false;
+        connect(&graph.model, &Model::modelDataChanged, [&] {
+            if (!std::exchange(answered, true))
+                answer(graph.model);
+        });
+        QWindow* window = graph.view.window()->windowHandle();
+        const QPoint start = graph.windowPos(QPointF(200.0, 40.0));
+        QTest::mousePress(window, Qt::LeftButton, {}, start);
+        QTest::mouseMove(window, start + QPoint(5, 10));
+        QTest::mouseMove(window, start + QPoint(10, 20));
+        QTest::mouseRelease(window, Qt::LeftButton, {}, start + QPoint(10, 20));
+        QVERIFY(answered);
+        QVERIFY(!graph.schematic.isMoving());
+        verifyLayout(graph.schematic);
     }
 
     void rightClickOffersEntriesForPlace_data()

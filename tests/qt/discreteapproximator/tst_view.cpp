@@ -13,6 +13,7 @@
 #include "kestest.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QSettings>
@@ -40,6 +41,20 @@ Change importing(const QString& text)
         kes::test::triggerEntry(&menu, QStringLiteral("Import from clipboard"));
     };
 }
+
+// Counts the context-menu requests that reach it from its children.
+class MenuParent : public QWidget
+{
+public:
+    int requests = 0;
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override
+    {
+        ++requests;
+        event->accept();
+    }
+};
 
 } // namespace
 
@@ -127,6 +142,31 @@ private Q_SLOTS:
         QVERIFY(view.data() != before);
         view.setData(Points{{9.0, 9.0}});
         QCOMPARE(before, copy);
+    }
+
+    void rightClickMenuIsTheOnlyOne_data()
+    {
+        QTest::addColumn<int>("tab");
+
+        QTest::newRow("graphics") << 0;
+        QTest::newRow("table") << 1;
+    }
+
+    void rightClickMenuIsTheOnlyOne()
+    {
+        QFETCH(int, tab);
+
+        // A main window around a dock, say, would open its own menu after ours.
+        MenuParent parent;
+        auto* view = new View(&parent);
+        view->setCurrentIndex(tab);
+        view->resize(300, 250);
+        parent.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&parent));
+        QWidget* viewport =
+            tab == 0 ? view->graphicsView()->viewport() : view->tableView()->viewport();
+        QVERIFY(!kes::test::rightClickMenu(viewport, QPoint(20, 10)).isEmpty());
+        QCOMPARE(parent.requests, 0);
     }
 
     void retitlesTabsOnLanguageChange_data()

@@ -100,8 +100,9 @@ void Model::setData(const Points& points)
     const Points replacement = points.empty() ? createDefaultData() : points;
     beginResetModel();
     m_points = replacement;
-    endResetModel();
+    // Cleared before the views rebuild, so that none of them shows the old row as selected.
     m_selectedRow = -1;
+    endResetModel();
     Q_EMIT modelDataChanged();
 }
 

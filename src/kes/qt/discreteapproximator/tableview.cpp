@@ -17,6 +17,8 @@ TableView::TableView(Model* model, QWidget* parent)
     setModel(model);
     // Two columns of numbers share the width, however wide the editor is.
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    // The press opens our own menu; the request Qt sends after it must not reach the parents.
+    setContextMenuPolicy(Qt::PreventContextMenu);
     connect(this, SIGNAL(clicked(const QModelIndex&)), this, SLOT(on_clicked(const QModelIndex&)));
     connect(model, SIGNAL(selectedPointChanged(const QModelIndex&)), this,
             SLOT(on_selectedPointChanged(const QModelIndex&)));

@@ -50,7 +50,10 @@ Model::Model(discreteapproximator::Model* dataModel, QObject* parent)
             SLOT(on_selectedPointChanged( const QModelIndex& )));
 }
 
-Model::~Model() = default;
+Model::~Model()
+{
+    qDeleteAll(m_retired);
+}
 
 QPointF Model::toSceneCoords(const PointF& p) const
 {
@@ -213,7 +216,7 @@ void Model::removePoint(int row)
 {
     if (row < 0 || row >= m_points.size())
         return;
-    delete m_points.takeAt(row);
+    retire(m_points.takeAt(row));
     delete m_lines.takeAt(row);
     // Without points there is nothing for the remaining run to start from.
     if (m_points.isEmpty()) {
@@ -248,10 +251,30 @@ void Model::setYAxisText(const QString& text)
 
 void Model::clearItems()
 {
-    qDeleteAll(m_points);
+    for (Point* point : qAsConst(m_points))
+        retire(point);
     m_points.clear();
     qDeleteAll(m_lines);
     m_lines.clear();
+}
+
+// An application may answer dataChanged() by replacing or removing points while one of them is
+// still inside its own mouse handler; that point must outlive the handler.
+void Model::retire(Point* point)
+{
+    // Its release will not come: the drag is over.
+    if (mouseGrabberItem() == point)
+        m_moving = false;
+    removeItem(point);
+    m_retired.append(point);
+    if (m_retired.size() == 1)
+        QMetaObject::invokeMethod(this, "deleteRetired", Qt::QueuedConnection);
+}
+
+void Model::deleteRetired()
+{
+    qDeleteAll(m_retired);
+    m_retired.clear();
 }
 
 void Model::on_modelReset()

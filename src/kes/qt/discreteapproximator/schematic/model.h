@@ -97,6 +97,9 @@ public Q_SLOTS:
     void on_rowsInserted(const QModelIndex& parent, int start, int end);
     void on_selectedPointChanged(const QModelIndex& index);
 
+private Q_SLOTS:
+    void deleteRetired();
+
 private:
     // What the item positions were computed from; nothing needs re-placing while it holds.
     struct Mapping
@@ -113,6 +116,7 @@ private:
     void addItems(int row);
     void layLine(int line);
     void clearItems();
+    void retire(Point* point);
 
     discreteapproximator::Model* m_dataModel;
     QVector<Point*> m_points;
@@ -128,6 +132,8 @@ private:
     bool m_moving = false;
     Coordsystem* m_coordsystem;
     Cross* m_cross;
+    // Out of the scene, deleted once control is back in the event loop.
+    QVector<Point*> m_retired;
     Mapping m_mapping;
     bool m_mapped = false;
 };

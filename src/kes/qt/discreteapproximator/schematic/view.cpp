@@ -26,6 +26,8 @@ View::View(Model* scene, QWidget* parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setRenderHint(QPainter::Antialiasing);
+    // The press opens our own menu; the request Qt sends after it must not reach the parents.
+    setContextMenuPolicy(Qt::PreventContextMenu);
     connect(m_insertPoint, SIGNAL(triggered()), this, SLOT(on_insertPoint()));
     connect(&kes::qt::translation::Manager::singleton(), SIGNAL(languageChanged()), this,
             SLOT(translate()));
