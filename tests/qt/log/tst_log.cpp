@@ -136,7 +136,8 @@ private Q_SLOTS:
         QCOMPARE(listed.toHtml(), oneByOne.toHtml());
     }
 
-    // Queued messages, the core log's UTF-8 text from another thread and a directly posted event.
+    // Queued messages, the core log's UTF-8 text from another thread and a directly posted event,
+    // in posting order.
     void writesEveryWayIn()
     {
         Log hub(true, false);
@@ -145,9 +146,11 @@ private Q_SLOTS:
         std::thread worker([] { kes::core::Log::singleton().log("Gr\xc3\xb6\xc3\x9f" "e 12 \xc2\xb5m"); });
         worker.join();
         QCoreApplication::postEvent(&hub, new Log::MessageReceivedEvent(7, QStringLiteral("direct")));
+        hub.postLog(QStringLiteral("after direct"));
         QCoreApplication::postEvent(&hub, new QEvent(QEvent::Type(QEvent::User + 1)));
         QCoreApplication::sendPostedEvents(&hub, 0);
-        QCOMPARE(lines(hub), (QStringList{"", "queued", QStringLiteral("Größe 12 µm"), "direct"}));
+        QCOMPARE(lines(hub),
+                 (QStringList{"", "queued", QStringLiteral("Größe 12 µm"), "direct", "after direct"}));
         QCOMPARE(lines(unregistered), QStringList{""});
         QCOMPARE(int(Log::MessageReceivedEvent(7, QString()).type()), 1000);
     }

@@ -30,6 +30,10 @@ int blocksOf(const QString& text)
     return blocks;
 }
 
+// MessageReceivedEvents in existence that the application made itself. A message queued behind
+// an event posted before one of them could overtake it.
+std::atomic<int> applicationEvents{0};
+
 } // namespace
 
 std::atomic<Log*> Log::_impl{nullptr};
@@ -39,9 +43,41 @@ Log::MessageReceivedEvent::MessageReceivedEvent(int tag, const QString& message)
     , tag(tag)
     , message(message)
 {
+    ++applicationEvents;
 }
 
-Log::MessageReceivedEvent::~MessageReceivedEvent() = default;
+Log::MessageReceivedEvent::MessageReceivedEvent(int tag, const QString& message, quint64 batch)
+    : QEvent(messageReceivedType)
+    , tag(tag)
+    , message(message)
+    , m_batch(batch)
+{
+}
+
+Log::MessageReceivedEvent::MessageReceivedEvent(const MessageReceivedEvent& other)
+    : QEvent(other)
+    , tag(other.tag)
+    , message(other.message)
+    , m_batch(other.m_batch)
+{
+    if (m_batch == 0)
+        ++applicationEvents;
+}
+
+// Keeps its own m_batch, which the count of the application's events depends on.
+Log::MessageReceivedEvent& Log::MessageReceivedEvent::operator=(const MessageReceivedEvent& other)
+{
+    QEvent::operator=(other);
+    tag = other.tag;
+    message = other.message;
+    return *this;
+}
+
+Log::MessageReceivedEvent::~MessageReceivedEvent()
+{
+    if (m_batch == 0)
+        --applicationEvents;
+}
 
 Log::Log()
     : Log(false, false)
@@ -100,18 +136,18 @@ void Log::insertEmptyLine()
 
 void Log::postLog(const QString& text, int tag)
 {
-    bool wasEmpty = false;
-    {
-        QMutexLocker lock(&m_queueMutex);
-        wasEmpty = m_queue.isEmpty();
-        m_queue.append(text);
-    }
-    if (!wasEmpty)
+    QMutexLocker lock(&m_queueMutex);
+    // The last batch's event is already posted; joining it is safe unless an application's event
+    // may have been posted after it.
+    if (!m_batches.isEmpty() && applicationEvents.load() == 0) {
+        m_batches.last().append(text);
         return;
-    // Qt takes the event over; one is enough for everything queued until it is delivered.
-    auto* event = new MessageReceivedEvent(tag, text);
-    event->m_drainsQueue = true;
-    QCoreApplication::postEvent(this, event);
+    }
+    m_batches.append(QStringList(text));
+    // Posted under the lock, so that the events arrive in the order of their batches. Qt takes
+    // the event over.
+    const quint64 batch = m_firstBatch + quint64(m_batches.size()) - 1;
+    QCoreApplication::postEvent(this, new MessageReceivedEvent(tag, text, batch));
 }
 
 void Log::postEmptyLine()
@@ -129,15 +165,22 @@ void Log::customEvent(QEvent* event)
     if (event->type() != MessageReceivedEvent::messageReceivedType)
         return;
     auto* received = static_cast<MessageReceivedEvent*>(event);
-    if (!received->m_drainsQueue) {
+    if (received->m_batch == 0) {
         log(received->message);
         return;
     }
-    QStringList messages;
+    // Batches after this event's own were posted later, perhaps after an application's event.
+    QList<QStringList> batches;
     {
         QMutexLocker lock(&m_queueMutex);
-        messages.swap(m_queue);
+        while (!m_batches.isEmpty() && m_firstBatch <= received->m_batch) {
+            batches.append(m_batches.takeFirst());
+            ++m_firstBatch;
+        }
     }
+    QStringList messages;
+    for (const QStringList& batch : qAsConst(batches))
+        messages += batch;
     writeLines(messages);
 }
 

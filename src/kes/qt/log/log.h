@@ -23,12 +23,12 @@ namespace kes::qt::log {
 /// line instead of a new line.
 ///
 /// postLog(), postEmptyLine() and logMessageReceiver() may be called from any thread and never wait
-/// for the GUI: the message joins a short queue under a lock that only ever guards appending and
-/// taking the queue, and a MessageReceivedEvent is posted when the queue was empty. customEvent()
+/// for the GUI: the message joins a short queue under a lock that the GUI thread holds only to take
+/// the queue, and a MessageReceivedEvent is posted when the queue was empty. customEvent()
 /// then writes everything queued in one edit of the document, with exactly the lines, dots and
-/// order that writing the messages one by one would give. Messages posted through postLog() are
-/// written in posting order; a MessageReceivedEvent posted directly by the application is written
-/// when the event loop delivers it.
+/// order that writing the messages one by one would give. Lines keep their posting order, also
+/// around a MessageReceivedEvent the application posts itself: while one of those exists, every
+/// postLog() posts its own event.
 ///
 /// The application calls init() once after creating its QApplication, and done() at shutdown,
 /// after the log windows and redirectors are gone.
@@ -45,6 +45,8 @@ public:
         static constexpr QEvent::Type messageReceivedType = QEvent::User;
 
         MessageReceivedEvent(int tag, const QString& message);
+        MessageReceivedEvent(const MessageReceivedEvent& other);
+        MessageReceivedEvent& operator=(const MessageReceivedEvent& other);
         ~MessageReceivedEvent() override;
 
         int tag;
@@ -52,8 +54,11 @@ public:
 
     private:
         friend class Log;
-        // Set on the events postLog() posts: they stand for the whole queue, message included.
-        bool m_drainsQueue = false;
+        MessageReceivedEvent(int tag, const QString& message, quint64 batch);
+
+        // The events postLog() posts stand for the queued batches up to this serial, their own
+        // message included; 0 on any other event.
+        quint64 m_batch = 0;
     };
 
     /// The tag of every message the library posts itself.
@@ -100,7 +105,8 @@ private:
     bool m_allowRepeats = false;
 
     QMutex m_queueMutex;
-    QStringList m_queue;
+    QList<QStringList> m_batches;
+    quint64 m_firstBatch = 1;
 };
 
 } // namespace kes::qt::log

@@ -3,6 +3,7 @@
 
 #include <kes/qt/kes_qt_export.h>
 
+#include <QPointer>
 #include <QTextEdit>
 
 class QAction;
@@ -21,7 +22,7 @@ public:
     explicit View(QWidget* parent = nullptr);
     ~View() override;
 
-    /// Appended to the context menu after a separator; not owned; null for none.
+    /// Appended to the context menu after a separator; not owned; null (or deleted) for none.
     void setHelpAction(QAction* action);
 
 public Q_SLOTS:
@@ -33,7 +34,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QAction* m_helpAction = nullptr;
+    // Guarded: the application may delete its action before the view.
+    QPointer<QAction> m_helpAction;
 };
 
 } // namespace kes::qt::log
