@@ -357,15 +357,7 @@ void tst_View::drawsEverySegment()
             view.setTrigger(c, TriggerRisingEdge);
     }
     view.redraw();
-    const QImage drawn = view.pixmap().toImage();
-    const QImage expected = everySegment(view);
-    QCOMPARE(drawn.size(), expected.size());
-    int differing = 0;
-    for (int y = 0; y < drawn.height(); ++y) {
-        for (int x = 0; x < drawn.width(); ++x)
-            differing += drawn.pixel(x, y) != expected.pixel(x, y);
-    }
-    QCOMPARE(differing, 0);
+    QCOMPARE(view.pixmap().toImage(), everySegment(view));
 }
 
 void tst_View::survivesBadInput_data()
