@@ -324,6 +324,7 @@ void tst_View::drawsEverySegment_data()
     QTest::newRow("sweep, clipped") << true << 10000 << 30.0 << opaque << QSize(640, 480);
     QTest::newRow("free running, noisy") << false << 12000 << 2.0 << opaque << QSize(900, 600);
     QTest::newRow("free running, quiet") << false << 12000 << 0.05 << opaque << QSize(700, 300);
+    QTest::newRow("free running, 1 per unit") << false << 1000 << 0.0 << opaque << QSize(900, 600);
     QTest::newRow("translucent") << true << 10000 << 2.0 << translucent << QSize(500, 300);
 }
 
