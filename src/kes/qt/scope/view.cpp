@@ -94,8 +94,8 @@ bool inColumn(const QPointF& a, const QPointF& b, int column)
     const double right = column + 1 - columnMargin - std::max(a.x(), b.x());
     // A steep segment reaches half a row beyond its ends, and its x moves with it.
     const bool steep = (dy >= 1.0) & (2.0 * dy * left >= dx) & (2.0 * dy * right > dx);
-    // A single point goes to the nearest pixel. A segment shorter than that, whose ends truncate
-    // to the same 26.6 fixed-point value without being equal, lights nothing at all.
+    // A single point goes to the nearest pixel, but a segment whose unequal ends truncate to the
+    // same 26.6 fixed-point x lights nothing at all.
     const bool vanishes =
         (dx != 0.0) & (std::trunc(a.x() * 64.0) == std::trunc(b.x() * 64.0));
     const bool flat =
