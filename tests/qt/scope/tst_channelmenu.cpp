@@ -90,7 +90,6 @@ private Q_SLOTS:
     void init();
     void listsAndChecksTheEntries_data();
     void listsAndChecksTheEntries();
-    void amplificationResetsTheOffset();
     void allChannelsEditEveryShownChannel();
     void triggerChoicesCloseNoCycle();
     void setColor_data();
@@ -173,21 +172,6 @@ void tst_ChannelMenu::listsAndChecksTheEntries()
         triggers.insert(4, "Channel 2");
     QCOMPARE(submenuTexts(&menu, "Trigger"), triggers);
     QTEST(texts(&menu, true), "checked");
-}
-
-void tst_ChannelMenu::amplificationResetsTheOffset()
-{
-    View view;
-    view.setYOffset(1, 2.0);
-    ChannelMenu menu(1, &view);
-    QSignalSpy scales(&menu, SIGNAL(yscaleChanged(int, qreal)));
-    QSignalSpy offsets(&view, SIGNAL(yOffsetChanged(int, double)));
-    entry(&menu, {"Amplification", "5 / Div"})->trigger();
-    QCOMPARE(view.channel(1).yScale, 50 * 0.1);
-    QCOMPARE(view.channel(1).yOffset, 0.0);
-    QCOMPARE(scales.size(), 1);
-    QCOMPARE(scales.at(0), (QVariantList{1, 50 * 0.1}));
-    QVERIFY(offsets.isEmpty());
 }
 
 void tst_ChannelMenu::allChannelsEditEveryShownChannel()
@@ -302,6 +286,7 @@ void tst_ChannelMenu::rightClickMenu()
     view.setChannelEnabled(1, false);
     QSignalSpy enabled(&view, SIGNAL(channelEnabled(int, bool)));
     QSignalSpy scales(&view, SIGNAL(yscaleChanged(int, qreal)));
+    QSignalSpy offsets(&view, SIGNAL(yOffsetChanged(int, double)));
 
     rightClick(view, [](QMenu* menu) {
         QCOMPARE(texts(menu), (QStringList{"All channels", "Channel 1", "Enable Channel 2",
@@ -314,13 +299,18 @@ void tst_ChannelMenu::rightClickMenu()
     QCOMPARE(enabled.at(0), (QVariantList{1, true}));
     QVERIFY(view.channel(1).enabled);
 
-    // The submenus' signals reach the application through the view.
+    // The submenus' signals reach the application through the view. A new amplification resets
+    // the offset, silently.
+    view.setYOffset(2, 0.5);
     rightClick(view, [](QMenu* menu) {
         QCOMPARE(texts(menu).at(2), QStringLiteral("Channel 2"));
-        entry(menu, {"All channels", "Amplification", "2 / Div"})->trigger();
+        entry(menu, {"All channels", "Amplification", "5 / Div"})->trigger();
     });
     QCOMPARE(scales.size(), 3);
-    QCOMPARE(scales.at(2), (QVariantList{2, 2.0}));
+    QCOMPARE(scales.at(2), (QVariantList{2, 50 * 0.1}));
+    QCOMPARE(view.channel(2).yScale, 50 * 0.1);
+    QCOMPARE(view.channel(2).yOffset, 0.0);
+    QVERIFY(offsets.isEmpty());
 
     for (int i = 0; i < 3; ++i)
         view.addPoint(i, 1.0, 1.0);
