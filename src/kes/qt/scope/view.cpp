@@ -94,8 +94,8 @@ bool inColumn(const QPointF& a, const QPointF& b, int column)
     const double right = column + 1 - columnMargin - std::max(a.x(), b.x());
     // A steep segment reaches half a row beyond its ends, and its x moves with it.
     const bool steep = (dy >= 1.0) & (2.0 * dy * left >= dx) & (2.0 * dy * right > dx);
-    // A single point goes to the nearest pixel, but a segment shorter than 1/64 may end in the
-    // same 26.6 fixed-point x as it starts and then lights nothing: left to the line drawing.
+    // A single point goes to the nearest pixel, but a segment shorter than 1/64 pixel may end in
+    // the same 26.6 fixed-point x as it starts and then lights nothing: left to the line drawing.
     const bool flat = (dy == 0.0) & (left >= 0.0) & (right > 0.5 * double(dx == 0.0))
                       & ((dx == 0.0) | (dx >= 1.0 / 64.0));
     return steep | flat;
