@@ -12,7 +12,6 @@
 #include <QImage>
 #include <QLocale>
 #include <QMenu>
-#include <QMimeData>
 #include <QSettings>
 #include <QTimer>
 #include <QtTest>
@@ -30,21 +29,14 @@ Q_DECLARE_METATYPE(Curves)
 
 namespace {
 
-QStringList texts(const QMenu* menu)
-{
-    QStringList result;
-    for (const QAction* action : menu->actions())
-        result << action->text();
-    return result;
-}
-
-QStringList checked(const QMenu* menu)
+// The texts of the entries; with \a checkedOnly, those of the checked entries of all submenus.
+QStringList texts(const QMenu* menu, bool checkedOnly = false)
 {
     QStringList result;
     for (const QAction* action : menu->actions()) {
-        if (action->menu())
-            result << checked(action->menu());
-        else if (action->isChecked())
+        if (checkedOnly && action->menu())
+            result << texts(action->menu(), true);
+        else if (!checkedOnly || action->isChecked())
             result << action->text();
     }
     return result;
@@ -63,18 +55,10 @@ QAction* entry(const QMenu* menu, const QStringList& path)
     return nullptr;
 }
 
-QMenu* submenu(const QMenu* menu, const QString& title)
+QStringList submenuTexts(const QMenu* menu, const QString& title)
 {
-    QAction* action = entry(menu, {title});
-    return action ? action->menu() : nullptr;
-}
-
-QStringList series(const QString& format, double factor)
-{
-    QStringList result;
-    for (int value : {1, 2, 5, 10, 20, 50, 100, 200, 500, 1000, 2000, 5000, 10000})
-        result << format.arg(value * factor, 0, 'g', -1);
-    return result;
+    const QAction* action = entry(menu, {title});
+    return action && action->menu() ? texts(action->menu()) : QStringList();
 }
 
 // Runs \a inspect on the context menu that a right click on \a view opens, then closes it.
@@ -104,25 +88,20 @@ class tst_ChannelMenu : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void listsTheEntries_data();
-    void listsTheEntries();
-    void checksTheCurrentSettings_data();
-    void checksTheCurrentSettings();
-    void amplificationResetsTheOffset();
+    void listsAndChecksTheEntries_data();
+    void listsAndChecksTheEntries();
     void allChannelsEditEveryShownChannel();
-    void allChannelsTriggerSkipsTheChosenChannel();
-    void refusedTriggerIsNotReported();
+    void triggerChoicesCloseNoCycle();
     void setColor_data();
     void setColor();
+    void outlivesItsView();
     void rightClickMenu();
     void translates_data();
     void translates();
     void copiesData_data();
     void copiesData();
-    void copiesNoData_data();
-    void copiesNoData();
-    void copiesImage_data();
-    void copiesImage();
+    void copiesNothing_data();
+    void copiesNothing();
 };
 
 void tst_ChannelMenu::initTestCase()
@@ -138,40 +117,9 @@ void tst_ChannelMenu::init()
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
 }
 
-void tst_ChannelMenu::listsTheEntries_data()
-{
-    QTest::addColumn<int>("channel");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QStringList>("entries");
-    QTest::addColumn<QStringList>("triggers");
-
-    QTest::newRow("one channel")
-        << 1 << "Channel 2"
-        << QStringList{"Disable", "Time", "Amplification", "Trigger", "Set color"}
-        << QStringList{"Off", "Rising edge", "Falling edge", "Channel 1", "Channel 3",
-                       "Channel 4"};
-    QTest::newRow("all channels")
-        << -1 << "All channels" << QStringList{"Enable", "Disable", "Time", "Amplification", "Trigger"}
-        << QStringList{"Off",       "Rising edge", "Falling edge", "Channel 1",
-                       "Channel 2", "Channel 3",   "Channel 4"};
-}
-
-void tst_ChannelMenu::listsTheEntries()
-{
-    QFETCH(int, channel);
-
-    View view;
-    ChannelMenu menu(channel, &view);
-    QTEST(menu.title(), "title");
-    QCOMPARE(menu.icon().isNull(), channel < 0);
-    QTEST(texts(&menu), "entries");
-    QCOMPARE(texts(submenu(&menu, "Time")), series("%1ms", 1));
-    QCOMPARE(texts(submenu(&menu, "Amplification")).first(), QStringLiteral("0.1 / Div"));
-    QCOMPARE(texts(submenu(&menu, "Amplification")), series("%1 / Div", 0.1));
-    QTEST(texts(submenu(&menu, "Trigger")), "triggers");
-}
-
-void tst_ChannelMenu::checksTheCurrentSettings_data()
+// Channel 1 of the view, or all channels, with channel "changed" set to the given scales and
+// trigger.
+void tst_ChannelMenu::listsAndChecksTheEntries_data()
 {
     QTest::addColumn<int>("channel");
     QTest::addColumn<int>("changed");
@@ -194,7 +142,7 @@ void tst_ChannelMenu::checksTheCurrentSettings_data()
         << -1 << 5 << 50.0 << 5.0 << int(TriggerOff) << QStringList{"100ms", "1 / Div"};
 }
 
-void tst_ChannelMenu::checksTheCurrentSettings()
+void tst_ChannelMenu::listsAndChecksTheEntries()
 {
     QFETCH(int, channel);
     QFETCH(int, changed);
@@ -207,20 +155,23 @@ void tst_ChannelMenu::checksTheCurrentSettings()
     view.setYScale(changed, yScale);
     view.setTrigger(changed, Trigger_t(trigger));
     ChannelMenu menu(channel, &view);
-    QTEST(checked(&menu), "checked");
-}
-
-void tst_ChannelMenu::amplificationResetsTheOffset()
-{
-    View view;
-    view.setYOffset(1, 2.0);
-    ChannelMenu menu(1, &view);
-    QSignalSpy scales(&menu, SIGNAL(yscaleChanged(int, qreal)));
-    entry(&menu, {"Amplification", "5 / Div"})->trigger();
-    QCOMPARE(view.channel(1).yScale, 50 * 0.1);
-    QCOMPARE(view.channel(1).yOffset, 0.0);
-    QCOMPARE(scales.size(), 1);
-    QCOMPARE(scales.at(0), (QVariantList{1, 50 * 0.1}));
+    const bool all = channel < 0;
+    QCOMPARE(menu.title(), all ? QStringLiteral("All channels") : QStringLiteral("Channel 2"));
+    QCOMPARE(menu.icon().isNull(), all);
+    const QStringList common{"Disable", "Time", "Amplification", "Trigger"};
+    QCOMPARE(texts(&menu), all ? QStringList("Enable") + common : common + QStringList("Set color"));
+    QCOMPARE(submenuTexts(&menu, "Time"),
+             (QStringList{"1ms", "2ms", "5ms", "10ms", "20ms", "50ms", "100ms", "200ms", "500ms",
+                          "1000ms", "2000ms", "5000ms", "10000ms"}));
+    QCOMPARE(submenuTexts(&menu, "Amplification"),
+             (QStringList{"0.1 / Div", "0.2 / Div", "0.5 / Div", "1 / Div", "2 / Div", "5 / Div",
+                          "10 / Div", "20 / Div", "50 / Div", "100 / Div", "200 / Div",
+                          "500 / Div", "1000 / Div"}));
+    QStringList triggers{"Off", "Rising edge", "Falling edge", "Channel 1", "Channel 3", "Channel 4"};
+    if (all)
+        triggers.insert(4, "Channel 2");
+    QCOMPARE(submenuTexts(&menu, "Trigger"), triggers);
+    QTEST(texts(&menu, true), "checked");
 }
 
 void tst_ChannelMenu::allChannelsEditEveryShownChannel()
@@ -248,14 +199,15 @@ void tst_ChannelMenu::allChannelsEditEveryShownChannel()
         QCOMPARE(view.channel(i).enabled, i >= 4);
 }
 
-void tst_ChannelMenu::allChannelsTriggerSkipsTheChosenChannel()
+// "All channels" sets a channel as trigger of every other shown channel; a choice that would
+// close a cycle of followers is refused and not reported.
+void tst_ChannelMenu::triggerChoicesCloseNoCycle()
 {
     View view;
     view.setTrigger(2, TriggerRisingEdge);
-    ChannelMenu menu(-1, &view);
-    QSignalSpy triggers(&menu, SIGNAL(triggerChanged(int, int)));
-    entry(&menu, {"Trigger", "Channel 3"})->trigger();
-
+    ChannelMenu all(-1, &view);
+    QSignalSpy triggers(&all, SIGNAL(triggerChanged(int, int)));
+    entry(&all, {"Trigger", "Channel 3"})->trigger();
     QCOMPARE(triggers.size(), 3);
     QCOMPARE(triggers.at(2), (QVariantList{3, 2}));
     QCOMPARE(int(view.channel(2).trigger), int(TriggerRisingEdge));
@@ -263,17 +215,12 @@ void tst_ChannelMenu::allChannelsTriggerSkipsTheChosenChannel()
         QCOMPARE(int(view.channel(i).trigger), 2);
         QVERIFY(view.channel(i).triggered);
     }
-}
 
-void tst_ChannelMenu::refusedTriggerIsNotReported()
-{
-    View view;
-    view.setTrigger(2, Trigger_t(1));
-    ChannelMenu menu(1, &view);
-    QSignalSpy triggers(&menu, SIGNAL(triggerChanged(int, int)));
-    entry(&menu, {"Trigger", "Channel 3"})->trigger();
-    QVERIFY(triggers.isEmpty());
-    QCOMPARE(int(view.channel(1).trigger), int(TriggerOff));
+    ChannelMenu two(2, &view);
+    QSignalSpy refused(&two, SIGNAL(triggerChanged(int, int)));
+    entry(&two, {"Trigger", "Channel 1"})->trigger();
+    QVERIFY(refused.isEmpty());
+    QCOMPARE(int(view.channel(2).trigger), int(TriggerRisingEdge));
 }
 
 void tst_ChannelMenu::setColor_data()
@@ -309,6 +256,26 @@ void tst_ChannelMenu::setColor()
         QCOMPARE(colors.at(0), (QVariantList{1, QVariant::fromValue(quint32(qRgb(10, 20, 30)))}));
 }
 
+// Without its view a menu lists no channel, and its entries do nothing.
+void tst_ChannelMenu::outlivesItsView()
+{
+    auto* view = new View;
+    ChannelMenu single(1, view);
+    ChannelMenu all(-1, view);
+    ChannelMenu orphan(1, nullptr);
+    delete view;
+    QCOMPARE(submenuTexts(&orphan, "Trigger"), (QStringList{"Off", "Rising edge", "Falling edge"}));
+    for (ChannelMenu* menu : {&single, &all, &orphan}) {
+        QSignalSpy enabled(menu, SIGNAL(channelEnabled(int, bool)));
+        QSignalSpy triggers(menu, SIGNAL(triggerChanged(int, int)));
+        menu->translate();
+        entry(menu, {"Disable"})->trigger();
+        entry(menu, {"Trigger", "Off"})->trigger();
+        QVERIFY(enabled.isEmpty());
+        QVERIFY(triggers.isEmpty());
+    }
+}
+
 void tst_ChannelMenu::rightClickMenu()
 {
     View view;
@@ -319,6 +286,7 @@ void tst_ChannelMenu::rightClickMenu()
     view.setChannelEnabled(1, false);
     QSignalSpy enabled(&view, SIGNAL(channelEnabled(int, bool)));
     QSignalSpy scales(&view, SIGNAL(yscaleChanged(int, qreal)));
+    QSignalSpy offsets(&view, SIGNAL(yOffsetChanged(int, double)));
 
     rightClick(view, [](QMenu* menu) {
         QCOMPARE(texts(menu), (QStringList{"All channels", "Channel 1", "Enable Channel 2",
@@ -331,21 +299,30 @@ void tst_ChannelMenu::rightClickMenu()
     QCOMPARE(enabled.at(0), (QVariantList{1, true}));
     QVERIFY(view.channel(1).enabled);
 
-    // The submenus' signals reach the application through the view.
+    // The submenus' signals reach the application through the view. A new amplification resets
+    // the offset, silently.
+    view.setYOffset(2, 0.5);
     rightClick(view, [](QMenu* menu) {
         QCOMPARE(texts(menu).at(2), QStringLiteral("Channel 2"));
-        entry(menu, {"All channels", "Amplification", "2 / Div"})->trigger();
+        entry(menu, {"All channels", "Amplification", "5 / Div"})->trigger();
     });
     QCOMPARE(scales.size(), 3);
-    QCOMPARE(scales.at(2), (QVariantList{2, 2.0}));
+    QCOMPARE(scales.at(2), (QVariantList{2, 50 * 0.1}));
+    QCOMPARE(view.channel(2).yScale, 50 * 0.1);
+    QCOMPARE(view.channel(2).yOffset, 0.0);
+    QVERIFY(offsets.isEmpty());
 
-    view.addPoint(0, 1.0, 1.0);
-    view.addPoint(1, 1.0, 1.0);
-    view.addPoint(2, 1.0, 1.0);
+    for (int i = 0; i < 3; ++i)
+        view.addPoint(i, 1.0, 1.0);
     rightClick(view, [](QMenu* menu) { entry(menu, {"Copy as Data"})->trigger(); });
     QVERIFY(QApplication::clipboard()->text().startsWith("Time [s]\tChannel 1\t"));
+    // The legend lists the enabled channels only, beneath the plot.
+    view.setChannelEnabled(0, false);
     rightClick(view, [](QMenu* menu) { entry(menu, {"Copy as Image"})->trigger(); });
-    QCOMPARE(QApplication::clipboard()->pixmap().height(), 240 + 3 * 14);
+    const QImage image = QApplication::clipboard()->image();
+    QCOMPARE(image.size(), QSize(320, 240 + 2 * 14));
+    QCOMPARE(image.copy(0, 0, 320, 240), view.pixmap().toImage().convertToFormat(image.format()));
+    QCOMPARE(image.pixelColor(7, 240 + 7), QColor(Qt::green));
 }
 
 void tst_ChannelMenu::translates_data()
@@ -367,15 +344,14 @@ void tst_ChannelMenu::translates_data()
 void tst_ChannelMenu::translates()
 {
     QFETCH(QString, language);
-    QFETCH(QStringList, entries);
 
     View view;
     ChannelMenu menu(-1, &view);
     kes::qt::translation::Manager::singleton().setLanguage(language);
-    QStringList shown = QStringList{menu.title()} + texts(&menu);
-    shown << texts(menu.actions().at(4)->menu()).first();
+    const QStringList shown = QStringList{menu.title()} + texts(&menu)
+                              + texts(menu.actions().at(4)->menu()).mid(0, 1);
     kes::qt::translation::Manager::singleton().setLanguage(QStringLiteral("en"));
-    QCOMPARE(shown, entries);
+    QTEST(shown, "entries");
     QCOMPARE(menu.title(), QStringLiteral("All channels"));
 }
 
@@ -425,18 +401,23 @@ void tst_ChannelMenu::copiesData()
     QCOMPARE(QLocale(), QLocale::system());
 }
 
-void tst_ChannelMenu::copiesNoData_data()
+// Channel 1 holds no points, the others one each.
+void tst_ChannelMenu::copiesNothing_data()
 {
+    QTest::addColumn<QByteArray>("slot");
     QTest::addColumn<int>("numChannels");
     QTest::addColumn<bool>("enabled");
 
-    QTest::newRow("no channel shown") << 0 << true;
-    QTest::newRow("no channel enabled") << 2 << false;
-    QTest::newRow("an enabled channel is empty") << 3 << true;
+    QTest::newRow("data, no channel shown") << QByteArray("on_copy_data") << 0 << true;
+    QTest::newRow("data, no channel enabled") << QByteArray("on_copy_data") << 2 << false;
+    QTest::newRow("data, an enabled channel is empty") << QByteArray("on_copy_data") << 3 << true;
+    QTest::newRow("image, no channel shown") << QByteArray("on_copy_image") << 0 << true;
+    QTest::newRow("image, no channel enabled") << QByteArray("on_copy_image") << 2 << false;
 }
 
-void tst_ChannelMenu::copiesNoData()
+void tst_ChannelMenu::copiesNothing()
 {
+    QFETCH(QByteArray, slot);
     QFETCH(int, numChannels);
     QFETCH(bool, enabled);
 
@@ -447,42 +428,8 @@ void tst_ChannelMenu::copiesNoData()
         if (i != 1)
             view.addPoint(i, 0.0, 1.0);
     }
-    QVERIFY(QMetaObject::invokeMethod(&view, "on_copy_data"));
+    QVERIFY(QMetaObject::invokeMethod(&view, slot.constData()));
     QCOMPARE(QApplication::clipboard()->text(), unchanged);
-}
-
-void tst_ChannelMenu::copiesImage_data()
-{
-    QTest::addColumn<int>("numChannels");
-    QTest::addColumn<int>("disabled");
-    QTest::addColumn<int>("legendRows");
-
-    QTest::newRow("four channels") << 4 << -1 << 4;
-    QTest::newRow("one of three disabled") << 3 << 0 << 2;
-    QTest::newRow("none enabled") << 1 << 0 << 0;
-    QTest::newRow("none shown") << 0 << -1 << 0;
-}
-
-void tst_ChannelMenu::copiesImage()
-{
-    QFETCH(int, numChannels);
-    QFETCH(int, disabled);
-    QFETCH(int, legendRows);
-
-    View view;
-    view.resize(400, 300);
-    view.setNumChannels(numChannels);
-    view.setChannelEnabled(disabled, false);
-    QVERIFY(QMetaObject::invokeMethod(&view, "on_copy_image"));
-    if (legendRows == 0) {
-        QCOMPARE(QApplication::clipboard()->text(), unchanged);
-        return;
-    }
-    const QImage image = QApplication::clipboard()->image();
-    QCOMPARE(image.size(), QSize(400, 300 + 14 * legendRows));
-    QCOMPARE(image.copy(0, 0, 400, 300), view.pixmap().toImage().convertToFormat(image.format()));
-    // The first legend line starts with the first enabled channel's colour.
-    QCOMPARE(image.pixelColor(7, 300 + 7), view.channel(disabled == 0 ? 1 : 0).color);
 }
 
 KES_TEST_MAIN(tst_ChannelMenu)

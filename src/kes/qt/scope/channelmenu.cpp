@@ -50,6 +50,8 @@ ChannelMenu::ChannelMenu(int channel, View* view)
     if (!single && !compared.contains(0))
         compared.prepend(0);
     auto everyScale = [&](auto scaleOf, double value) {
+        if (!view)
+            return false;
         for (int i : qAsConst(compared)) {
             if (scaleOf(view->channel(i)) != value)
                 return false;
@@ -58,7 +60,8 @@ ChannelMenu::ChannelMenu(int channel, View* view)
     };
 
     if (single) {
-        setIcon(QIcon(view->channel(channel).icon));
+        if (view)
+            setIcon(QIcon(view->channel(channel).icon));
     } else {
         m_enable = addAction(QString(), this, SLOT(on_enable_channel()));
     }
@@ -77,13 +80,13 @@ ChannelMenu::ChannelMenu(int channel, View* view)
     }
 
     m_triggerMenu = addMenu(QString());
-    const int trigger = single ? int(view->channel(channel).trigger) : -1;
+    const int trigger = single && view ? int(view->channel(channel).trigger) : -1;
     m_triggerOff = addMapped(m_triggerMenu, m_triggerMapper, TriggerOff, trigger == TriggerOff);
     m_triggerRising = addMapped(m_triggerMenu, m_triggerMapper, TriggerRisingEdge,
                                 trigger == TriggerRisingEdge);
     m_triggerFalling = addMapped(m_triggerMenu, m_triggerMapper, TriggerFallingEdge,
                                  trigger == TriggerFallingEdge);
-    for (int j = 0; j < view->numChannels(); ++j) {
+    for (int j = 0; view && j < view->numChannels(); ++j) {
         if (j != channel)
             addMapped(m_triggerMenu, m_triggerMapper, j, trigger == j)->setText(
                 view->channel(j).name);
@@ -106,7 +109,8 @@ ChannelMenu::~ChannelMenu() = default;
 void ChannelMenu::translate()
 {
     if (m_channel >= 0) {
-        setTitle(m_view->channel(m_channel).name);
+        if (m_view)
+            setTitle(m_view->channel(m_channel).name);
     } else {
         setTitle(tr("All channels"));
         m_enable->setText(tr("Enable"));
@@ -129,6 +133,8 @@ void ChannelMenu::translate()
 
 QVector<int> ChannelMenu::targets() const
 {
+    if (!m_view)
+        return {};
     if (m_channel >= 0)
         return {m_channel};
     QVector<int> all;
@@ -183,8 +189,11 @@ void ChannelMenu::on_trigger(int trigger)
 
 void ChannelMenu::on_color()
 {
+    if (!m_view)
+        return;
     const QColor color = QColorDialog::getColor(m_view->channel(m_channel).color, m_view);
-    if (!color.isValid())
+    // The dialog runs an event loop of its own, in which the view may go.
+    if (!color.isValid() || !m_view)
         return;
     m_view->setColor(m_channel, color);
     emit colorChanged(m_channel, color.rgb());

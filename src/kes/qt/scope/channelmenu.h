@@ -4,6 +4,7 @@
 #include <kes/qt/kes_qt_export.h>
 
 #include <QMenu>
+#include <QPointer>
 #include <QVector>
 
 class QAction;
@@ -25,7 +26,8 @@ class KES_QT_EXPORT ChannelMenu : public QMenu
     Q_OBJECT
 
 public:
-    /// \a view is not owned and must outlive the menu.
+    /// \a view is not owned. Without a view (null, or deleted while the menu is open) the menu
+    /// lists no channel and its entries do nothing.
     ChannelMenu(int channel, View* view);
     ~ChannelMenu() override;
 
@@ -54,7 +56,7 @@ private:
     QVector<int> targets() const;
 
     int m_channel;
-    View* m_view;
+    QPointer<View> m_view;
     QSignalMapper* m_xscaleMapper;
     QSignalMapper* m_yscaleMapper;
     QSignalMapper* m_triggerMapper;

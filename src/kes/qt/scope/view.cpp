@@ -94,8 +94,10 @@ bool inColumn(const QPointF& a, const QPointF& b, int column)
     const double right = column + 1 - columnMargin - std::max(a.x(), b.x());
     // A steep segment reaches half a row beyond its ends, and its x moves with it.
     const bool steep = (dy >= 1.0) & (2.0 * dy * left >= dx) & (2.0 * dy * right > dx);
-    // A single point goes to the nearest pixel.
-    const bool flat = (dy == 0.0) & (left >= 0.0) & (right > 0.5 * double(dx == 0.0));
+    // A single point goes to the nearest pixel, but a segment shorter than 1/64 pixel may end in
+    // the same 26.6 fixed-point x as it starts and then lights nothing: left to the line drawing.
+    const bool flat = (dy == 0.0) & (left >= 0.0) & (right > 0.5 * double(dx == 0.0))
+                      & ((dx == 0.0) | (dx >= 1.0 / 64.0));
     return steep | flat;
 }
 
@@ -381,6 +383,8 @@ double View::pixel2yValue(const Channel& channel, int pixel) const
 
 void View::drawGrid(QPainter* painter)
 {
+    if (!painter)
+        return;
     const QPen dark(palette().brush(QPalette::Dark), 1.0, Qt::SolidLine);
     const QPen light(palette().brush(QPalette::Light), 1.0, Qt::SolidLine);
     Q_UNUSED(light)
@@ -402,7 +406,7 @@ void View::drawGrid(QPainter* painter)
 
 void View::drawArrows(QPainter* painter)
 {
-    if (!isChannel(m_currentChannel))
+    if (!painter || !isChannel(m_currentChannel))
         return;
     Channel& c = m_channels[m_currentChannel];
     painter->setBrush(QBrush(c.color, Qt::SolidPattern));
@@ -425,6 +429,8 @@ void View::drawArrows(QPainter* painter)
 
 void View::drawCurves(QPainter* painter)
 {
+    if (!painter)
+        return;
     const double plotWidth = m_plotRect.width();
     for (int i = 0; i < m_numChannels; ++i) {
         Channel& c = m_channels[i];
@@ -454,7 +460,7 @@ void View::drawCurves(QPainter* painter)
 void View::drawData(const Channel& channel, QPainter* painter)
 {
     const QVector<QPointF>& points = channel.points;
-    if (points.isEmpty())
+    if (!painter || points.isEmpty())
         return;
     const double left = m_plotRect.left();
     const double right = m_plotRect.right();
@@ -485,7 +491,7 @@ void View::drawData(const Channel& channel, QPainter* painter)
 void View::drawDataReverse(const Channel& channel, QPainter* painter)
 {
     const QVector<QPointF>& points = channel.points;
-    if (points.isEmpty())
+    if (!painter || points.isEmpty())
         return;
     const double left = m_plotRect.left();
     const double right = m_plotRect.right();
@@ -531,6 +537,11 @@ void View::refreshPixmap()
     // Kept while the size stays: a new one each time costs the page faults of a fresh buffer.
     if (m_pixmap.size() != QSize(w, h))
         m_pixmap = QPixmap(w, h);
+    // An empty widget has nothing to paint on.
+    if (m_pixmap.isNull()) {
+        update();
+        return;
+    }
     m_pixmap.fill(palette().color(backgroundRole()));
     QPainter painter(&m_pixmap);
     drawGrid(&painter);
@@ -643,7 +654,7 @@ void View::on_copy_image()
     int count = 0;
     for (int i = 0; i < m_numChannels; ++i)
         count += m_channels[i].enabled ? 1 : 0;
-    if (count == 0)
+    if (count == 0 || m_pixmap.isNull())
         return;
 
     const QColor background = palette().color(backgroundRole());
