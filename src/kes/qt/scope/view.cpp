@@ -101,15 +101,27 @@ bool inColumn(const QPointF& a, const QPointF& b, int column)
     return steep | flat;
 }
 
-// Traces the polyline through \a count points. State is kept in locals: members would be reloaded
-// after every store into the vectors.
-void trace(const QPointF* points, int count, bool merge, QVector<QLineF>& lines,
-           QVector<QRect>& columns)
+// How much of the line and column buffers one trace() used.
+struct Trace
 {
-    lines.clear();
-    columns.clear();
-    if (count == 0)
-        return;
+    int lines = 0;
+    int columns = 0;
+};
+
+// Traces the polyline through \a count points. State is kept in locals: members would be reloaded
+// after every store into the vectors. The buffers only ever grow and are written through raw
+// pointers, as QVector::append() checks sharing and capacity on every call of this hot loop.
+Trace trace(const QPointF* points, int count, bool merge, QVector<QLineF>& lines,
+            QVector<QRect>& columns)
+{
+    if (count <= 0)
+        return Trace();
+    if (lines.size() < count - 1)
+        lines.resize(count - 1);
+    if (columns.size() < count / 2)
+        columns.resize(count / 2);
+    QLineF* line = lines.data();
+    QRect* rect = columns.data();
     int column = noColumn;
     double top = 0.0;
     double bottom = 0.0;
@@ -119,9 +131,10 @@ void trace(const QPointF* points, int count, bool merge, QVector<QLineF>& lines,
         top = bottom = point.y();
         run = 1;
     };
+    // A run holds at least two points, so there are never more runs than half the points.
     auto endRun = [&] {
         if (run > 1)
-            columns.append(QRect(column, int(top), 1, int(bottom - top) + 1));
+            *rect++ = QRect(column, int(top), 1, int(bottom - top) + 1);
     };
     startRun(points[0]);
     for (int i = 1; i < count; ++i) {
@@ -135,22 +148,27 @@ void trace(const QPointF* points, int count, bool merge, QVector<QLineF>& lines,
             continue;
         }
         endRun();
-        lines.append(QLineF(last, point));
+        *line++ = QLineF(last, point);
         startRun(point);
     }
     endRun();
+    Trace used;
+    used.lines = int(line - lines.constData());
+    used.columns = int(rect - columns.constData());
+    return used;
 }
 
-void drawCurve(QPainter* painter, const QVector<QLineF>& lines, const QVector<QRect>& columns)
+void drawCurve(QPainter* painter, const QVector<QLineF>& lines, const QVector<QRect>& columns,
+               const Trace& used)
 {
-    painter->drawLines(lines);
-    if (columns.isEmpty())
+    painter->drawLines(lines.constData(), used.lines);
+    if (used.columns == 0)
         return;
     const QPen pen = painter->pen();
     const QBrush brush = painter->brush();
     painter->setPen(Qt::NoPen);
     painter->setBrush(pen.color());
-    painter->drawRects(columns);
+    painter->drawRects(columns.constData(), used.columns);
     painter->setPen(pen);
     painter->setBrush(brush);
 }
@@ -515,9 +533,9 @@ void View::drawDataReverse(const Channel& channel, QPainter* painter)
 
 void View::drawMapped(const Channel& channel, QPainter* painter, int count)
 {
-    trace(m_mapped.constData(), count, channel.color.alpha() == 255, m_curveLines,
-          m_curveColumns);
-    drawCurve(painter, m_curveLines, m_curveColumns);
+    const Trace used = trace(m_mapped.constData(), count, channel.color.alpha() == 255,
+                             m_curveLines, m_curveColumns);
+    drawCurve(painter, m_curveLines, m_curveColumns, used);
 }
 
 void View::refreshPixmap()
