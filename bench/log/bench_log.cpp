@@ -18,7 +18,7 @@
 #include <kes/qt/log/log.h>
 #include <kes/qt/log/window.h>
 
-#include "privatehome.h"
+#include "session.h"
 #include "summaryreporter.h"
 
 #include <benchmark/benchmark.h>
@@ -227,22 +227,8 @@ bool floodMatchesOneByOne(const QVector<QVector<QString>>& messages)
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const auto home = kes::test::makePrivateHome(QStringLiteral("kes-bench"));
-    if (!home) {
-        std::fprintf(stderr, "cannot create a temporary folder\n");
-        return 1;
-    }
-
-    // Qt gets only the program name; the remaining arguments are Google Benchmark's.
-    int qtArgc = 1;
-    char* qtArgv[] = {argv[0], nullptr};
-    QApplication app(qtArgc, qtArgv);
-
-    const auto options = kes::bench::consoleOptions(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    kes::bench::Session session(argc, argv);
+    if (!session.isReady())
         return 1;
 
     Log::init();
@@ -263,7 +249,7 @@ int main(int argc, char** argv)
         ->Iterations(1)
         ->Unit(benchmark::kMillisecond);
 
-    kes::bench::SummaryReporter reporter(options);
+    kes::bench::SummaryReporter reporter(session.options());
     benchmark::RunSpecifiedBenchmarks(&reporter);
 
     const double hubRate = reporter.counter(nameHub, "msgs_per_s");
@@ -287,7 +273,6 @@ int main(int argc, char** argv)
     std::printf("  %-56s %s\n", "final document identical to one-by-one writing",
                 identical ? "yes" : "NO");
 
-    benchmark::Shutdown();
     g_fixture = nullptr;
     delete fixture.window;
     Log::done();

@@ -13,6 +13,7 @@
 
 #include <kes/qt/scope/view.h>
 
+#include "session.h"
 #include "summaryreporter.h"
 
 #include <benchmark/benchmark.h>
@@ -235,15 +236,8 @@ void printSummary(const kes::bench::SummaryReporter& reporter)
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    int qtArgc = 1;
-    char* qtArgv[] = {argv[0], nullptr};
-    QApplication app(qtArgc, qtArgv);
-
-    const auto options = kes::bench::consoleOptions(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    kes::bench::Session session(argc, argv);
+    if (!session.isReady())
         return 1;
 
     for (int count : {10000, 1000}) {
@@ -258,9 +252,8 @@ int main(int argc, char** argv)
     }
     benchmark::RegisterBenchmark(nameAddPoint, addPoints)->Unit(benchmark::kMillisecond);
 
-    kes::bench::SummaryReporter reporter(options);
+    kes::bench::SummaryReporter reporter(session.options());
     benchmark::RunSpecifiedBenchmarks(&reporter);
     printSummary(reporter);
-    benchmark::Shutdown();
     return 0;
 }

@@ -16,7 +16,7 @@
 #include <kes/qt/translation/loader.h>
 #include <kes/qt/translation/manager.h>
 
-#include "privatehome.h"
+#include "session.h"
 #include "summaryreporter.h"
 
 #include <benchmark/benchmark.h>
@@ -787,40 +787,18 @@ void printSummary(const kes::bench::SummaryReporter& reporter)
     printRatio("Container::tr(args)  / QTranslator+arg(args)", containerArgs, qtArgs);
 }
 
-void setIfUnset(const char* name, const QByteArray& value)
-{
-    if (qEnvironmentVariableIsEmpty(name))
-        qputenv(name, value);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    // Headless, and private settings folders: the language manager stores its choice in QSettings,
-    // which must never reach the user's real configuration.
-    setIfUnset("QT_QPA_PLATFORM", "offscreen");
-    const auto home = kes::test::makePrivateHome(QStringLiteral("kes-bench"));
-    if (!home || !QDir().mkpath(home->filePath(QStringLiteral("files")))) {
-        std::fprintf(stderr, "cannot create a temporary folder\n");
+    // The language manager stores its choice in QSettings; the session's folders keep it private.
+    kes::bench::Session session(argc, argv);
+    if (!session.isReady())
         return 1;
-    }
-
-    // Qt gets only the program name; the remaining arguments are Google Benchmark's.
-    int qtArgc = 1;
-    char* qtArgv[] = {argv[0], nullptr};
-    QApplication app(qtArgc, qtArgv);
-    QCoreApplication::setOrganizationName(QStringLiteral("kes-bench"));
     QCoreApplication::setApplicationName(QStringLiteral("bench_translation"));
 
-    // Google Benchmark chooses the console options only for its own reporter.
-    const auto options = kes::bench::consoleOptions(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-
     Fixture fixture;
-    if (!setUp(fixture, home->filePath(QStringLiteral("files"))))
+    if (!setUp(fixture, session.scratchPath()))
         return 1;
     g_fixture = &fixture;
 
@@ -830,10 +808,9 @@ int main(int argc, char** argv)
     benchmark::RegisterBenchmark(nameQtArgs, BM_QtArgs);
     benchmark::RegisterBenchmark(nameLoader, BM_LoaderLoad)->Unit(benchmark::kMillisecond);
 
-    kes::bench::SummaryReporter reporter(options);
+    kes::bench::SummaryReporter reporter(session.options());
     benchmark::RunSpecifiedBenchmarks(&reporter);
     printSummary(reporter);
-    benchmark::Shutdown();
     g_fixture = nullptr;
     return 0;
 }
