@@ -48,6 +48,25 @@ QStringList repetitive(int count)
     return messages;
 }
 
+// Records every message event the hub is sent, and swallows those the test wants lost.
+class MessageFilter : public QObject
+{
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != Log::MessageReceivedEvent::messageReceivedType)
+            return false;
+        const auto* received = static_cast<Log::MessageReceivedEvent*>(event);
+        seen.append(qMakePair(received->tag, received->message));
+        return (dropTag >= 0 && received->tag == dropTag)
+            || (!dropMessage.isNull() && received->message == dropMessage);
+    }
+
+    int dropTag = -1;
+    QString dropMessage;
+    QVector<QPair<int, QString>> seen;
+};
+
 } // namespace
 
 class tst_Log : public QObject
@@ -153,6 +172,73 @@ private Q_SLOTS:
                  (QStringList{"", "queued", QStringLiteral("Größe 12 µm"), "direct", "after direct"}));
         QCOMPARE(lines(unregistered), QStringList{""});
         QCOMPARE(int(Log::MessageReceivedEvent(7, QString()).type()), 1000);
+    }
+
+    void goesOnAfterLostEvents_data()
+    {
+        QTest::addColumn<QString>("loss");
+        QTest::addColumn<QStringList>("firstLines"); // empty: not known in advance
+        QTest::newRow("filter drops one message") << "message" << QStringList{"", "a", "b", "c"};
+        QTest::newRow("filter drops a tag") << "tag" << QStringList{"", "a", "drop me", "c"};
+        QTest::newRow("events removed mid-flood") << "removed" << QStringList();
+    }
+
+    // A lost event loses its own message only: every way in goes on writing after it.
+    void goesOnAfterLostEvents()
+    {
+        QFETCH(QString, loss);
+        QFETCH(QStringList, firstLines);
+
+        Log::init();
+        Log* hub = Log::singleton();
+        MessageFilter filter;
+        hub->installEventFilter(&filter);
+        if (loss == QLatin1String("message"))
+            filter.dropMessage = QStringLiteral("drop me");
+        else if (loss == QLatin1String("tag"))
+            filter.dropTag = 7;
+
+        if (loss == QLatin1String("removed")) {
+            std::atomic<bool> done{false};
+            std::thread flood([&] {
+                for (int i = 0; i < 20000; ++i)
+                    hub->postLog(QStringLiteral("flood %1").arg(i));
+                done = true;
+            });
+            while (!done) {
+                QCoreApplication::removePostedEvents(hub);
+                QCoreApplication::processEvents();
+            }
+            flood.join();
+            QCoreApplication::removePostedEvents(hub);
+        } else {
+            hub->postLog(QStringLiteral("a"), 1);
+            hub->postLog(QStringLiteral("drop me"), 1);
+            hub->postLog(QStringLiteral("b"), 7);
+            hub->postLog(QStringLiteral("c"), 1);
+            QCOMPARE(lines(*hub), firstLines);
+        }
+
+        filter.seen.clear();
+        hub->postLog(QStringLiteral("gui"));
+        std::thread worker([] { Log::singleton()->postLog(QStringLiteral("worker"), 3); });
+        worker.join();
+        std::thread core([] { kes::core::Log::singleton().log("core"); });
+        core.join();
+        {
+            std::ostringstream stream;
+            OStreamRedirector redirector(stream, *hub);
+            stream << "stream" << std::endl;
+        }
+        hub->postEmptyLine();
+        const QStringList later{"gui", "worker", "core", "stream", ""};
+        QTRY_COMPARE(lines(*hub).mid(lines(*hub).size() - later.size()), later);
+        hub->log(QStringLiteral("direct"));
+        QCOMPARE(lines(*hub).constLast(), QStringLiteral("direct"));
+
+        const QVector<QPair<int, QString>> events{
+            {255, "gui"}, {3, "worker"}, {255, "core"}, {255, "stream"}, {255, ""}};
+        QCOMPARE(filter.seen, events);
     }
 
     void keepsEachThreadsOrder_data()

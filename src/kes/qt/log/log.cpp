@@ -3,10 +3,12 @@
 #include <kes/core/log.h>
 
 #include <QCoreApplication>
-#include <QMutexLocker>
 #include <QTextCursor>
+#include <QTimer>
 
 #include <boost/bind/bind.hpp>
+
+#include <utility>
 
 namespace kes::qt::log {
 
@@ -30,11 +32,50 @@ int blocksOf(const QString& text)
     return blocks;
 }
 
-// MessageReceivedEvents in existence that the application made itself. A message queued behind
-// an event posted before one of them could overtake it.
-std::atomic<int> applicationEvents{0};
-
 } // namespace
+
+class LogPrivate
+{
+public:
+    explicit LogPrivate(Log* q, bool allowRepeats);
+
+    // Writes the delivered messages that wait in pending.
+    void flush();
+    void writeLines(const QStringList& messages);
+
+    Log* const q;
+    QString lastMessage;
+    bool allowRepeats;
+
+    // Counts postLog() calls; any thread.
+    std::atomic<quint64> postedSerial{0};
+    // GUI thread only: the newest serial delivered, and the messages delivered but not yet written.
+    quint64 deliveredSerial = 0;
+    QStringList pending;
+    // Writes pending once the posted events of this round are through. A timer and not a posted
+    // event, so that neither an event filter on the hub nor removePostedEvents() can stop the
+    // writing for good; a child, so that it moves to another thread with the hub.
+    QTimer* const flushTimer;
+};
+
+LogPrivate::LogPrivate(Log* q, bool allowRepeats)
+    : q(q)
+    , allowRepeats(allowRepeats)
+    , flushTimer(new QTimer(q))
+{
+    flushTimer->setSingleShot(true);
+    flushTimer->setInterval(0);
+    QObject::connect(flushTimer, &QTimer::timeout, q, [this] { flush(); });
+}
+
+void LogPrivate::flush()
+{
+    flushTimer->stop();
+    if (pending.isEmpty())
+        return;
+    const QStringList messages = std::exchange(pending, QStringList());
+    writeLines(messages);
+}
 
 std::atomic<Log*> Log::_impl{nullptr};
 
@@ -43,41 +84,17 @@ Log::MessageReceivedEvent::MessageReceivedEvent(int tag, const QString& message)
     , tag(tag)
     , message(message)
 {
-    ++applicationEvents;
 }
 
-Log::MessageReceivedEvent::MessageReceivedEvent(int tag, const QString& message, quint64 batch)
+Log::MessageReceivedEvent::MessageReceivedEvent(int tag, const QString& message, quint64 serial)
     : QEvent(messageReceivedType)
     , tag(tag)
     , message(message)
-    , m_batch(batch)
+    , m_serial(serial)
 {
 }
 
-Log::MessageReceivedEvent::MessageReceivedEvent(const MessageReceivedEvent& other)
-    : QEvent(other)
-    , tag(other.tag)
-    , message(other.message)
-    , m_batch(other.m_batch)
-{
-    if (m_batch == 0)
-        ++applicationEvents;
-}
-
-// Keeps its own m_batch, which the count of the application's events depends on.
-Log::MessageReceivedEvent& Log::MessageReceivedEvent::operator=(const MessageReceivedEvent& other)
-{
-    QEvent::operator=(other);
-    tag = other.tag;
-    message = other.message;
-    return *this;
-}
-
-Log::MessageReceivedEvent::~MessageReceivedEvent()
-{
-    if (m_batch == 0)
-        --applicationEvents;
-}
+Log::MessageReceivedEvent::~MessageReceivedEvent() = default;
 
 Log::Log()
     : Log(false, false)
@@ -85,7 +102,7 @@ Log::Log()
 }
 
 Log::Log(bool registerReceiver, bool allowRepeats)
-    : m_allowRepeats(allowRepeats)
+    : d(std::make_unique<LogPrivate>(this, allowRepeats))
 {
     setMaximumBlockCount(maximumLines);
     if (registerReceiver) {
@@ -113,20 +130,22 @@ Log* Log::singleton()
 
 void Log::log(const QString& text)
 {
+    d->flush();
     QTextCursor cursor(this);
     cursor.movePosition(QTextCursor::End);
-    if (!m_allowRepeats && text == m_lastMessage) {
+    if (!d->allowRepeats && text == d->lastMessage) {
         cursor.insertText(QStringLiteral("."));
         return;
     }
-    m_lastMessage = text;
+    d->lastMessage = text;
     cursor.insertBlock();
     cursor.insertText(text);
 }
 
 void Log::log(const QStringList& list)
 {
-    writeLines(list);
+    d->flush();
+    d->writeLines(list);
 }
 
 void Log::insertEmptyLine()
@@ -136,18 +155,9 @@ void Log::insertEmptyLine()
 
 void Log::postLog(const QString& text, int tag)
 {
-    QMutexLocker lock(&m_queueMutex);
-    // The last batch's event is already posted; joining it is safe unless an application's event
-    // may have been posted after it.
-    if (!m_batches.isEmpty() && applicationEvents.load() == 0) {
-        m_batches.last().append(text);
-        return;
-    }
-    m_batches.append(QStringList(text));
-    // Posted under the lock, so that the events arrive in the order of their batches. Qt takes
-    // the event over.
-    const quint64 batch = m_firstBatch + quint64(m_batches.size()) - 1;
-    QCoreApplication::postEvent(this, new MessageReceivedEvent(tag, text, batch));
+    const quint64 serial = d->postedSerial.fetch_add(1) + 1;
+    // Qt takes the event over.
+    QCoreApplication::postEvent(this, new MessageReceivedEvent(tag, text, serial));
 }
 
 void Log::postEmptyLine()
@@ -164,47 +174,38 @@ void Log::customEvent(QEvent* event)
 {
     if (event->type() != MessageReceivedEvent::messageReceivedType)
         return;
-    auto* received = static_cast<MessageReceivedEvent*>(event);
-    if (received->m_batch == 0) {
-        log(received->message);
-        return;
-    }
-    // Batches after this event's own were posted later, perhaps after an application's event.
-    QList<QStringList> batches;
-    {
-        QMutexLocker lock(&m_queueMutex);
-        while (!m_batches.isEmpty() && m_firstBatch <= received->m_batch) {
-            batches.append(m_batches.takeFirst());
-            ++m_firstBatch;
-        }
-    }
-    QStringList messages;
-    for (const QStringList& batch : qAsConst(batches))
-        messages += batch;
-    writeLines(messages);
+    const auto* received = static_cast<const MessageReceivedEvent*>(event);
+    d->pending.append(received->message);
+    d->deliveredSerial = qMax(d->deliveredSerial, received->m_serial);
+    // With nothing newer on its way the message is written at once; in a flood the messages
+    // delivered in one pass of the event loop are written together after it.
+    if (d->deliveredSerial == d->postedSerial.load())
+        d->flush();
+    else if (!d->flushTimer->isActive())
+        d->flushTimer->start();
 }
 
 // Works out the lines and dots of \a messages first and then inserts, in one go, only what can
 // survive the block limit: a flood of messages then costs one edit and one layout of at most a
 // full document, instead of one of each per message.
-void Log::writeLines(const QStringList& messages)
+void LogPrivate::writeLines(const QStringList& messages)
 {
     if (messages.isEmpty())
         return;
-    const int limit = maximumBlockCount();
+    const int limit = q->maximumBlockCount();
     int dotsOnLastLine = 0;
     QStringList lines;
     QList<int> lineBlocks;
     int blocks = 0;
     for (const QString& text : messages) {
-        if (!m_allowRepeats && text == m_lastMessage) {
+        if (!allowRepeats && text == lastMessage) {
             if (lines.isEmpty())
                 ++dotsOnLastLine;
             else
                 lines.last().append(QLatin1Char('.'));
             continue;
         }
-        m_lastMessage = text;
+        lastMessage = text;
         lines.append(text);
         lineBlocks.append(blocksOf(text));
         blocks += lineBlocks.last();
@@ -220,7 +221,7 @@ void Log::writeLines(const QStringList& messages)
         text.append(QChar::ParagraphSeparator);
         text.append(line);
     }
-    QTextCursor cursor(this);
+    QTextCursor cursor(q);
     cursor.movePosition(QTextCursor::End);
     cursor.insertText(text);
 }

@@ -4,15 +4,17 @@
 #include <kes/qt/kes_qt_export.h>
 
 #include <QEvent>
-#include <QMutex>
 #include <QString>
 #include <QStringList>
 #include <QTextDocument>
 
 #include <atomic>
+#include <memory>
 #include <string>
 
 namespace kes::qt::log {
+
+class LogPrivate;
 
 /// The process-wide log of a GUI application, and the document the log window shows: every
 /// message is one line (text block), and only the newest 100 lines are kept.
@@ -23,12 +25,13 @@ namespace kes::qt::log {
 /// line instead of a new line.
 ///
 /// postLog(), postEmptyLine() and logMessageReceiver() may be called from any thread and never wait
-/// for the GUI: the message joins a short queue under a lock that the GUI thread holds only to take
-/// the queue, and a MessageReceivedEvent is posted when the queue was empty. customEvent()
-/// then writes everything queued in one edit of the document, with exactly the lines, dots and
-/// order that writing the messages one by one would give. Lines keep their posting order, also
-/// around a MessageReceivedEvent the application posts itself: while one of those exists, every
-/// postLog() posts its own event.
+/// for the GUI: each message travels to the hub's thread in its own MessageReceivedEvent, which an
+/// event filter on the hub sees with its tag and text and may swallow (that message alone is then
+/// not written). customEvent() collects the delivered messages and writes them in one edit of the
+/// document once no newer posted message is on its way, or else from the event loop right after
+/// the posted events, with exactly the lines, dots and order that writing the messages one by one
+/// would give. Lines keep their posting order, the application's own MessageReceivedEvents
+/// included, and a direct log() call first writes what was delivered before it.
 ///
 /// The application calls init() once after creating its QApplication, and done() at shutdown,
 /// after the log windows and redirectors are gone.
@@ -45,8 +48,6 @@ public:
         static constexpr QEvent::Type messageReceivedType = QEvent::User;
 
         MessageReceivedEvent(int tag, const QString& message);
-        MessageReceivedEvent(const MessageReceivedEvent& other);
-        MessageReceivedEvent& operator=(const MessageReceivedEvent& other);
         ~MessageReceivedEvent() override;
 
         int tag;
@@ -54,11 +55,10 @@ public:
 
     private:
         friend class Log;
-        MessageReceivedEvent(int tag, const QString& message, quint64 batch);
+        MessageReceivedEvent(int tag, const QString& message, quint64 serial);
 
-        // The events postLog() posts stand for the queued batches up to this serial, their own
-        // message included; 0 on any other event.
-        quint64 m_batch = 0;
+        // The hub's count of postLog() calls when this one was posted; 0 on the application's own.
+        quint64 m_serial = 0;
     };
 
     /// The tag of every message the library posts itself.
@@ -97,16 +97,10 @@ protected:
     void customEvent(QEvent* event) override;
 
 private:
-    void writeLines(const QStringList& messages);
-
+    friend class LogPrivate;
     static std::atomic<Log*> _impl;
 
-    QString m_lastMessage;
-    bool m_allowRepeats = false;
-
-    QMutex m_queueMutex;
-    QList<QStringList> m_batches;
-    quint64 m_firstBatch = 1;
+    std::unique_ptr<LogPrivate> d;
 };
 
 } // namespace kes::qt::log
