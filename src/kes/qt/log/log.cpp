@@ -3,6 +3,8 @@
 #include <kes/core/log.h>
 
 #include <QCoreApplication>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QTextCursor>
 #include <QTimer>
 
@@ -47,8 +49,11 @@ public:
     QString lastMessage;
     bool allowRepeats;
 
-    // Counts postLog() calls; any thread.
+    // Counts postLog() calls; written under postMutex, read by the GUI thread without it.
     std::atomic<quint64> postedSerial{0};
+    // One poster at a time: the serials then follow the order of the events, and in a flood the
+    // other posters sleep instead of contending with the GUI thread for Qt's event queue.
+    QMutex postMutex;
     // GUI thread only: the newest serial delivered, and the messages delivered but not yet written.
     quint64 deliveredSerial = 0;
     QStringList pending;
@@ -155,9 +160,12 @@ void Log::insertEmptyLine()
 
 void Log::postLog(const QString& text, int tag)
 {
-    const quint64 serial = d->postedSerial.fetch_add(1) + 1;
+    auto* event = new MessageReceivedEvent(tag, text, 0);
+    QMutexLocker lock(&d->postMutex);
+    event->m_serial = d->postedSerial.load(std::memory_order_relaxed) + 1;
+    d->postedSerial.store(event->m_serial);
     // Qt takes the event over.
-    QCoreApplication::postEvent(this, new MessageReceivedEvent(tag, text, serial));
+    QCoreApplication::postEvent(this, event);
 }
 
 void Log::postEmptyLine()

@@ -25,7 +25,7 @@ class LogPrivate;
 /// line instead of a new line.
 ///
 /// postLog(), postEmptyLine() and logMessageReceiver() may be called from any thread and never wait
-/// for the GUI: each message travels to the hub's thread in its own MessageReceivedEvent, which an
+/// for the GUI (posters only take turns to post): each message travels to the hub's thread in its own MessageReceivedEvent, which an
 /// event filter on the hub sees with its tag and text and may swallow (that message alone is then
 /// not written). customEvent() collects the delivered messages and writes them in one edit of the
 /// document once no newer posted message is on its way, or else from the event loop right after
