@@ -232,6 +232,7 @@ private Q_SLOTS:
         QTest::newRow("section name ending in translations") << file("<other/><t:translations>" + good + "</t:translations>") << none << true << true << "" << "k{de=ka}";
         QTest::newRow("section name case-sensitive") << file("<Translations>" + good + "</Translations>") << none << true << false << "" << "";
         QTest::newRow("section below a direct child") << file("<wrap><translations>" + good + "</translations></wrap>") << none << true << false << "" << "";
+        QTest::newRow("complete section, then a break") << R"(<root><translations>)" + good + "</translations><broken" << none << true << false << "" << "";
         QTest::newRow("section as document element") << "<translations>" + good + "</translations>" << none << true << false << "" << "";
         QTest::newRow("prefixed attributes") << section(R"(<item t:key="k"><t t:lang="de">ka</t></item>)") << "t" << true << true << "" << "k{de=ka}";
         QTest::newRow("prefix ignores plain key") << section(good) << "t" << true << false << missingKey << "";

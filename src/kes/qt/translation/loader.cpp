@@ -38,9 +38,11 @@ bool Loader::load(const QString& fileName)
         return false;
     m_fileName = fileName;
 
-    // A document that does not parse stays empty and so has no sections: that is the report.
+    // A document that does not parse counts as empty and so has no sections: that is the report.
+    // QDomDocument keeps what it read before the error, which must not be loaded.
     QDomDocument document;
-    document.setContent(&file);
+    if (!document.setContent(&file))
+        document = QDomDocument();
     file.close();
 
     int sections = 0;

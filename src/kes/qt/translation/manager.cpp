@@ -51,6 +51,8 @@ bool Manager::load(const QFileInfo& fileInfo)
     QFile file(fileInfo.absoluteFilePath());
     if (!file.open(QIODevice::ReadOnly))
         return false;
+    // The result is ignored on purpose: a list that breaks off keeps the languages read before
+    // the break, which QDomDocument holds despite the error.
     QDomDocument document;
     document.setContent(&file);
     file.close();
