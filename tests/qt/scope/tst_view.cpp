@@ -38,7 +38,7 @@ void moveMouse(View& view, const QPoint& pos)
 }
 
 // What the view is to show: the grid, the markers and every segment of every curve drawn one at a
-// time, from the view's own mapping.
+// time inside the plot, from the view's own mapping.
 QImage everySegment(View& view)
 {
     const QRect plot = view.plotRect();
@@ -47,6 +47,7 @@ QImage everySegment(View& view)
     QPainter painter(&pixmap);
     view.drawGrid(&painter);
     view.drawArrows(&painter);
+    painter.setClipRect(plot);
     for (int i = 0; i < view.numChannels(); ++i) {
         const auto& c = view.channel(i);
         if (!c.enabled || c.points.isEmpty())
@@ -59,7 +60,7 @@ QImage everySegment(View& view)
             const QPointF& p = c.points.at(reverse ? c.points.size() - 1 - k : k);
             const double px = reverse ? plot.right() - (origin - p.x()) * c.xPixelsPerUnit
                                       : plot.left() + (p.x() - origin) * c.xPixelsPerUnit;
-            if (px > plot.right())
+            if (px > plot.right() || px < plot.left() - int(reverse))
                 break;
             path.append(QPointF(px, view.yValue2pixel(c, p.y())));
         }
@@ -92,6 +93,8 @@ private Q_SLOTS:
     void drawsTheCurveAndTheZeroLine();
     void drawsEverySegment_data();
     void drawsEverySegment();
+    void keepsCurvesInsideThePlot_data();
+    void keepsCurvesInsideThePlot();
     void survivesBadInput_data();
     void survivesBadInput();
 };
@@ -359,6 +362,80 @@ void tst_View::drawsEverySegment()
     }
     view.redraw();
     QCOMPARE(view.pixmap().toImage(), everySegment(view));
+}
+
+void tst_View::keepsCurvesInsideThePlot_data()
+{
+    QTest::addColumn<bool>("triggered"); // channel 0 sweeps and channel 1 follows; else both run free
+    QTest::addColumn<double>("jump");    // x added to every sample after the first run, in sweeps
+    QTest::addColumn<double>("xScale");
+
+    for (const bool triggered : {true, false}) {
+        const char* mode = triggered ? "sweep and follower" : "free running";
+        const auto row = [&](const char* what, double jump, double xScale) {
+            QTest::addRow("%s, %s", mode, what) << triggered << jump << xScale;
+        };
+        row("no jump", 0.0, 100.0);
+        row("jump forward by 100 widths", 100.0, 100.0);
+        row("jump back to the start", -1.0, 100.0);
+        row("jump forward, tiny time base", 1e6, 1e-9);
+        row("jump back, huge time base", -1.0, 1e12);
+    }
+}
+
+// Whatever the time does between two batches of samples, the curves stay inside the plot and
+// leave the margins with the channel buttons and markers alone.
+void tst_View::keepsCurvesInsideThePlot()
+{
+    QFETCH(bool, triggered);
+    QFETCH(double, jump);
+    QFETCH(double, xScale);
+
+    View view;
+    view.resize(400, 300);
+    view.setCurrentChannel(-1);
+    view.setNumChannels(2);
+    view.setTrigger(0, triggered ? TriggerRisingEdge : TriggerOff);
+    view.setTrigger(1, triggered ? Trigger_t(0) : TriggerOff);
+    // Channel 0's last rising edge at 930; free-running curves fill the width exactly.
+    for (int i = 0; i < 1100; ++i) {
+        view.addPoint(0, i, std::sin(i / 37.0) * 3.0);
+        view.addPoint(1, i, std::cos(i / 23.0) * 3.0);
+    }
+    view.redraw();
+    view.setXScale(0, xScale);
+    view.setXScale(1, xScale);
+    // The first frame after the jump, before the next trigger: below the level, nothing fires.
+    const double sweep = 10.0 * 100.0;
+    for (int i = 0; i < 20; ++i) {
+        const double x = jump * sweep + 1100.0 * (jump >= 0) + i;
+        view.addPoint(0, x, -3.0 - i / 10.0);
+        view.addPoint(1, x, 3.0 + i / 10.0);
+    }
+    view.redraw();
+
+    const QImage image = view.pixmap().toImage();
+    const QRect plot = view.plotRect();
+    View empty;
+    empty.resize(view.size());
+    empty.setCurrentChannel(-1);
+    const QImage frame = empty.pixmap().toImage();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (!plot.contains(x, y) && image.pixel(x, y) != frame.pixel(x, y))
+                QFAIL(qPrintable(QStringLiteral("pixel (%1, %2) outside the plot").arg(x).arg(y)));
+        }
+    }
+    if (xScale != 100.0)
+        return; // a sample or two per screen width draw no curve
+    // Still drawn, though.
+    const QRgb red = QColor(Qt::red).rgb();
+    bool curve = false;
+    for (int y = plot.top() + 1; y < plot.bottom() && !curve; ++y) {
+        for (int x = plot.left() + 1; x < plot.right() && !curve; ++x)
+            curve = image.pixel(x, y) == red;
+    }
+    QVERIFY(curve);
 }
 
 void tst_View::survivesBadInput_data()

@@ -450,6 +450,10 @@ void View::drawCurves(QPainter* painter)
     if (!painter)
         return;
     const double plotWidth = m_plotRect.width();
+    // The mapping keeps rows inside the plot and the sweeps stop at its edges, but a free-running
+    // curve one screen wide starts a pixel left of it: the clip keeps the margins clean.
+    painter->save();
+    painter->setClipRect(m_plotRect);
     for (int i = 0; i < m_numChannels; ++i) {
         Channel& c = m_channels[i];
         if (!c.enabled || c.points.isEmpty())
@@ -473,6 +477,7 @@ void View::drawCurves(QPainter* painter)
         c.points.erase(c.points.begin(), c.points.begin() + keep);
         drawDataReverse(c, painter);
     }
+    painter->restore();
 }
 
 void View::drawData(const Channel& channel, QPainter* painter)
@@ -487,13 +492,15 @@ void View::drawData(const Channel& channel, QPainter* painter)
     const RowMapping row(channel, m_yCentre, m_plotRect);
 
     // The samples from the left edge, then down or up to the zero row and along it to the right
-    // edge, unless a sample beyond the right edge ended the sweep.
+    // edge, unless a sample beyond the right edge ended the sweep. Time that ran back before the
+    // sweep's start (the application restarted its clock) ends it as well, and so does a time
+    // base that maps to NaN.
     m_mapped.resize(points.size() + 2);
     QPointF* mapped = m_mapped.data();
     int count = 0;
     for (const QPointF& p : points) {
         const double px = (p.x() - x0) * perUnit + left;
-        if (px > right)
+        if (!(px <= right && px >= left))
             break;
         mapped[count++] = QPointF(px, row(p.y()));
     }
@@ -518,13 +525,20 @@ void View::drawDataReverse(const Channel& channel, QPainter* painter)
     const RowMapping row(channel, m_yCentre, m_plotRect);
 
     // The samples from the right edge backwards, then to the zero row and along it to the left.
+    // drawCurves() trimmed them to the width, give or take a pixel; a time base that maps to NaN
+    // draws nothing.
     m_mapped.resize(points.size() + 2);
     QPointF* mapped = m_mapped.data();
     int count = 0;
     for (int i = points.size() - 1; i >= 0; --i) {
         const QPointF& p = points.at(i);
-        mapped[count++] = QPointF(right - (xLast - p.x()) * perUnit, row(p.y()));
+        const double px = right - (xLast - p.x()) * perUnit;
+        if (!(px >= left - 1.0 && px <= right))
+            break;
+        mapped[count++] = QPointF(px, row(p.y()));
     }
+    if (count == 0)
+        return;
     const double zero = row(0.0);
     mapped[count] = QPointF(mapped[count - 1].x(), zero);
     mapped[count + 1] = QPointF(left, zero);
