@@ -26,6 +26,8 @@ function(kes_add_library target export_name dir)
         $<BUILD_INTERFACE:${KES_GENERATED_INCLUDE_DIR}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     target_link_libraries(${target} PUBLIC ${ARG_PUBLIC_LIBS} PRIVATE kes_build_options ${ARG_PRIVATE_LIBS})
+    # The headers use C++17 (nested namespaces, inline variables): consumers get it with the target.
+    target_compile_features(${target} PUBLIC cxx_std_17)
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${export_name}
         VERSION ${PROJECT_VERSION}

@@ -38,6 +38,8 @@ endfunction()
 function(kes_compile_translations out_var)
     cmake_parse_arguments(ARG "" "OUTPUT_DIR" "TS" ${ARGN})
     set(qm_files "")
+    # Ninja makes the folders of a command's outputs, Make does not, and lrelease will not either.
+    file(MAKE_DIRECTORY ${ARG_OUTPUT_DIR})
     foreach(ts ${ARG_TS})
         get_filename_component(name ${ts} NAME_WE)
         set(qm ${ARG_OUTPUT_DIR}/${name}.qm)

@@ -12,6 +12,9 @@
 #include <cstdio>
 #include <cstring>
 
+// The project asks for C++14; linking Kes::Qt must raise it to what the headers are written in.
+static_assert(__cplusplus >= 201703L, "the Kes targets do not carry C++17");
+
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
