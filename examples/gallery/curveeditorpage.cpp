@@ -6,6 +6,7 @@
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSlider>
@@ -59,18 +60,19 @@ CurveEditorPage::CurveEditorPage(QWidget* parent)
     m_slider->setObjectName(QStringLiteral("operatingPointSlider"));
     m_slider->setRange(0, sliderSteps);
     m_slider->setValue(sliderSteps * 42 / 100);
+    // Wide enough to be dragged with some precision in the smallest window.
+    m_slider->setMinimumWidth(160);
     m_operatingPoint = new QLabel(this);
-    m_operatingPoint->setMinimumWidth(150);
     auto* sliderRow = new QHBoxLayout;
     sliderRow->setSpacing(10);
     sliderRow->addWidget(m_sliderLabel);
     sliderRow->addWidget(m_slider, 1);
-    sliderRow->addWidget(m_operatingPoint);
 
     auto* editorColumn = new QVBoxLayout;
     editorColumn->setSpacing(8);
     editorColumn->addWidget(m_editor, 1);
     editorColumn->addLayout(sliderRow);
+    editorColumn->addWidget(m_operatingPoint, 0, Qt::AlignRight);
 
     m_pointsHeading = new QLabel(this);
     scaleFont(m_pointsHeading, 1.0, true);
@@ -181,7 +183,9 @@ void CurveEditorPage::updateOperatingPoint()
     const double x = first + (last - first) * m_slider->value() / sliderSteps;
     const double y = interpolate(points, x);
     m_editor->setPoint(x, y);
-    m_operatingPoint->setText(tr("%1 V \u2192 %2 %").arg(x, 0, 'f', 2).arg(y, 0, 'f', 1));
+    const QLocale locale;
+    m_operatingPoint->setText(
+        tr("%1 V \u2192 %2 %").arg(locale.toString(x, 'f', 2), locale.toString(y, 'f', 1)));
 }
 
 void CurveEditorPage::showChangeCount()
@@ -191,9 +195,10 @@ void CurveEditorPage::showChangeCount()
 
 void CurveEditorPage::showPoints()
 {
+    const QLocale locale;
     QStringList lines;
     for (const PointF& p : m_editor->data())
-        lines << QStringLiteral("%1  %2").arg(p.x, 8, 'g', 6).arg(p.y, 9, 'g', 6);
+        lines << QStringLiteral("%1  %2").arg(locale.toString(p.x, 'g', 6), 8).arg(locale.toString(p.y, 'g', 6), 9);
     m_points->setPlainText(lines.join(QLatin1Char('\n')));
 }
 

@@ -1,5 +1,6 @@
 #include "logpage.h"
 
+#include "flowlayout.h"
 #include "mainwindow.h"
 #include "style.h"
 
@@ -32,7 +33,11 @@ using kes::qt::log::Log;
 using namespace style;
 
 constexpr int textMaxWidth = 820;
+// The log panel's share of the window when the page first shows it, and its least height.
+constexpr double dockShare = 0.3;
 constexpr int dockHeight = 150;
+// Tighter than on the other pages: the page shares its height with the log panel.
+constexpr int sectionGap = 10;
 
 // What the threads of a vision cell log; every fourth message is the same, to show the dots.
 QString workerMessage(int worker, long long i)
@@ -97,7 +102,7 @@ LogPage::LogPage(MainWindow& window, QWidget* parent)
     layout->addWidget(m_heading);
     layout->addSpacing(6);
     layout->addWidget(m_intro);
-    layout->addSpacing(16);
+    layout->addSpacing(sectionGap);
 
     m_guiHeading = sectionHeading(this);
     m_message = new QLineEdit(QStringLiteral("Camera 2 connected at 30 fps"), this);
@@ -118,7 +123,7 @@ LogPage::LogPage(MainWindow& window, QWidget* parent)
     layout->addLayout(guiRow);
     layout->addSpacing(4);
     layout->addWidget(m_guiNote);
-    layout->addSpacing(16);
+    layout->addSpacing(sectionGap);
 
     m_threadsHeading = sectionHeading(this);
     m_threadsLabel = new QLabel(this);
@@ -134,22 +139,28 @@ LogPage::LogPage(MainWindow& window, QWidget* parent)
     m_workersButton = button("workersButton", this);
     m_workersStatus = new QLabel(this);
     muteText(m_workersStatus);
-    auto* threadsRow = new QHBoxLayout;
-    threadsRow->setSpacing(8);
-    threadsRow->addWidget(m_threadsLabel);
-    threadsRow->addWidget(m_threads);
-    threadsRow->addSpacing(12);
-    threadsRow->addWidget(m_rateLabel);
-    threadsRow->addWidget(m_rate);
-    threadsRow->addSpacing(12);
+    // Wraps in a narrow window; each label stays with its field.
+    const auto labelled = [this](QLabel* label, QWidget* field) {
+        auto* pair = new QWidget(this);
+        auto* pairLayout = new QHBoxLayout(pair);
+        pairLayout->setContentsMargins(0, 0, 0, 0);
+        pairLayout->setSpacing(8);
+        pairLayout->addWidget(label);
+        pairLayout->addWidget(field);
+        label->setBuddy(field);
+        return pair;
+    };
+    auto* threadsRow = new FlowLayout;
+    threadsRow->setHorizontalSpacing(20);
+    threadsRow->setVerticalSpacing(6);
+    threadsRow->addWidget(labelled(m_threadsLabel, m_threads));
+    threadsRow->addWidget(labelled(m_rateLabel, m_rate));
     threadsRow->addWidget(m_workersButton);
-    threadsRow->addSpacing(12);
     threadsRow->addWidget(m_workersStatus);
-    threadsRow->addStretch(1);
     layout->addWidget(m_threadsHeading);
     layout->addSpacing(6);
     layout->addLayout(threadsRow);
-    layout->addSpacing(16);
+    layout->addSpacing(sectionGap);
 
     m_sourcesHeading = sectionHeading(this);
     m_coutButton = button("coutButton", this);
@@ -246,7 +257,8 @@ void LogPage::activated()
     }
     if (m_logWindow && !m_dockSized) {
         // Low enough to leave the pages their room; the user's own size is kept afterwards.
-        m_mainWindow.resizeDocks({m_logWindow.data()}, {dockHeight}, Qt::Vertical);
+        const int height = std::max(dockHeight, int(m_mainWindow.height() * dockShare));
+        m_mainWindow.resizeDocks({m_logWindow.data()}, {height}, Qt::Vertical);
         m_dockSized = true;
     }
     m_statusTimer->start();

@@ -17,7 +17,9 @@
 #include <QCommandLineOption>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QSettings>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -191,6 +193,12 @@ int main(int argc, char** argv)
         redirectSettings(*settingsDirectory, !earlyParser.isSet(earlyOptions.screenshot));
     }
 
+    // Qt's own texts (the colour dialog, a text field's Undo/Cut/Paste menu) come from Qt's
+    // catalogues, which the language manager looks for first where QTTRANSLATIONDIR points.
+    if (qEnvironmentVariableIsEmpty("QTTRANSLATIONDIR")) {
+        qputenv("QTTRANSLATIONDIR",
+                QFile::encodeName(QLibraryInfo::location(QLibraryInfo::TranslationsPath)));
+    }
     auto& languages = kes::qt::translation::Manager::singleton();
     // The gallery's own message files, "kes_gallery_<language>.qm", built from translations/.
     languages.addTranslatorSearchPath(QStringLiteral(":/gallery/translations/"));

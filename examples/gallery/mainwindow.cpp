@@ -10,6 +10,7 @@
 #include <QIcon>
 #include <QKeySequence>
 #include <QListWidget>
+#include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -189,6 +190,12 @@ void MainWindow::hideEvent(QHideEvent* event)
 
 void MainWindow::retranslateUi()
 {
+    // Numbers follow the language as the texts do: the default for what the pages format, the
+    // window's for the widgets in it (spin boxes), before the pages write their texts anew.
+    const QString language = kes::qt::translation::Manager::singleton().currentLanguageString();
+    const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
+    QLocale::setDefault(locale);
+    setLocale(locale);
     setWindowTitle(tr("libkes_qt gallery"));
     m_fileMenu->setTitle(tr("&File"));
     m_quitAction->setText(tr("&Quit"));
@@ -207,6 +214,12 @@ void MainWindow::retranslateUi()
 void MainWindow::onCurrentRowChanged(int row)
 {
     if (row >= 0 && row < m_pages.size()) {
+        // The window's least size is the shown page's, not the largest of all pages.
+        for (Page* page : qAsConst(m_pages)) {
+            const auto policy = page == m_pages.at(row) ? QSizePolicy::Preferred
+                                                        : QSizePolicy::Ignored;
+            page->setSizePolicy(policy, policy);
+        }
         m_pageStack->setCurrentWidget(m_pages.at(row));
     }
     updateActivePage();

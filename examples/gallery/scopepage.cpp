@@ -6,6 +6,7 @@
 
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QLabel>
 #include <QRandomGenerator>
 #include <QSpinBox>
@@ -103,9 +104,10 @@ ScopePage::ScopePage(QWidget* parent)
     // Stacked in four rows, so that the first channels do not hide each other.
     for (int c = 0; c < View::maxChannels; ++c)
         m_view->setYOffset(c, 3.3 - 2.2 * (c % 4));
-    // A sweep a little shorter than the 500 ms between two triggers, so that it fills the width.
-    m_view->setXScale(0, 45.0);
-    m_view->setXScale(1, 45.0);
+    // A sweep as long as the 500 ms between two triggers fills the width; 50 ms per division is
+    // also one of the time bases the channel menu offers, so that it shows ticked there.
+    m_view->setXScale(0, 50.0);
+    m_view->setXScale(1, 50.0);
     m_view->setTrigger(0, kes::qt::scope::TriggerRisingEdge);
     m_view->setTriggerPosition(0, initialLevel);
     m_view->setTrigger(1, Trigger_t(0));
@@ -197,7 +199,7 @@ void ScopePage::on_view_triggerPositionChanged(int channel, double level)
         const QSignalBlocker blocker(m_level);
         m_level->setValue(level);
     }
-    showSignal(QStringLiteral("triggerPositionChanged(%1, %2)").arg(channel).arg(level, 0, 'f', 2));
+    showSignal(QStringLiteral("triggerPositionChanged(%1, %2)").arg(channel).arg(QLocale().toString(level, 'f', 2)));
 }
 
 void ScopePage::showSignal(const QString& text)
@@ -213,12 +215,12 @@ void ScopePage::on_view_channelEnabled(int channel, bool enable)
 
 void ScopePage::on_view_xscaleChanged(int channel, qreal scale)
 {
-    showSignal(QStringLiteral("xscaleChanged(%1, %2)").arg(channel).arg(scale));
+    showSignal(QStringLiteral("xscaleChanged(%1, %2)").arg(channel).arg(QLocale().toString(scale)));
 }
 
 void ScopePage::on_view_yscaleChanged(int channel, qreal scale)
 {
-    showSignal(QStringLiteral("yscaleChanged(%1, %2)").arg(channel).arg(scale));
+    showSignal(QStringLiteral("yscaleChanged(%1, %2)").arg(channel).arg(QLocale().toString(scale)));
 }
 
 void ScopePage::on_view_triggerChanged(int channel, int trigger)
@@ -234,7 +236,7 @@ void ScopePage::on_view_colorChanged(int channel, quint32 color)
 
 void ScopePage::on_view_yOffsetChanged(int channel, double offset)
 {
-    showSignal(QStringLiteral("yOffsetChanged(%1, %2)").arg(channel).arg(offset, 0, 'f', 2));
+    showSignal(QStringLiteral("yOffsetChanged(%1, %2)").arg(channel).arg(QLocale().toString(offset, 'f', 2)));
 }
 
 } // namespace kes::gallery

@@ -46,12 +46,31 @@ bool writeScreenshots(MainWindow& window, const QString& directory, QString* err
         return false;
     }
 
-    window.setFixedSize(screenshotWindowSize);
     window.show();
+    settle(std::chrono::milliseconds(0));
+    // Every page, with the panels it shows, must lay out in a small window too.
+    const auto pages = window.pages();
+    for (Page* page : pages) {
+        window.setCurrentPage(page);
+        settle(std::chrono::milliseconds(0));
+        const QSize needed = window.minimumSizeHint().expandedTo(window.minimumSize());
+        if (needed.width() > smallestWindowSize.width()
+            || needed.height() > smallestWindowSize.height()) {
+            if (errorMessage) {
+                *errorMessage = QCoreApplication::translate(
+                                    "kes::gallery::writeScreenshots",
+                                    "The page %1 needs a window of %2 \u00d7 %3 pixels")
+                                    .arg(page->id())
+                                    .arg(needed.width())
+                                    .arg(needed.height());
+            }
+            return false;
+        }
+    }
+    window.setFixedSize(screenshotWindowSize);
     settle(std::chrono::milliseconds(0));
 
     QTextStream out(stdout);
-    const auto pages = window.pages();
     for (Page* page : pages) {
         window.setCurrentPage(page);
         settle(page->settleTime());

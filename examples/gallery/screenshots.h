@@ -10,6 +10,8 @@ class MainWindow;
 
 /// The size of the window in screenshots, fixed so that images of different runs compare.
 constexpr QSize screenshotWindowSize(1100, 720);
+/// Every page lays out in a window this small.
+constexpr QSize smallestWindowSize(800, 500);
 
 /// Shows \a window at screenshotWindowSize, selects every page in turn, lets it settle and saves
 /// an image of the whole window as \a directory/<page id>.png, creating \a directory if needed.

@@ -66,14 +66,14 @@ TranslationPage::TranslationPage(QWidget* parent)
     bold.setBold(true);
     m_language->setFont(bold);
     m_languageHint = new QLabel(this);
+    m_languageHint->setWordWrap(true);
     muteText(m_languageHint);
     auto* languageRow = new QHBoxLayout;
     languageRow->setSpacing(8);
     languageRow->addWidget(m_languageLabel);
     languageRow->addWidget(m_language);
     languageRow->addSpacing(8);
-    languageRow->addWidget(m_languageHint);
-    languageRow->addStretch(1);
+    languageRow->addWidget(m_languageHint, 1);
     layout->addLayout(languageRow);
     layout->addSpacing(18);
 

@@ -319,6 +319,10 @@
         <source>Cannot write the screenshot %1</source>
         <translation>Das Bildschirmfoto %1 kann nicht geschrieben werden</translation>
     </message>
+    <message>
+        <source>The page %1 needs a window of %2 × %3 pixels</source>
+        <translation>Die Seite %1 braucht ein Fenster von %2 × %3 Pixeln</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

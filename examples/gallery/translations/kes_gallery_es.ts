@@ -319,6 +319,10 @@
         <source>Cannot write the screenshot %1</source>
         <translation>No se puede escribir la captura de pantalla %1</translation>
     </message>
+    <message>
+        <source>The page %1 needs a window of %2 × %3 pixels</source>
+        <translation>La página %1 necesita una ventana de %2 × %3 píxeles</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -319,6 +319,10 @@
         <source>Cannot write the screenshot %1</source>
         <translation>Impossible d&apos;écrire la capture d&apos;écran %1</translation>
     </message>
+    <message>
+        <source>The page %1 needs a window of %2 × %3 pixels</source>
+        <translation>La page %1 demande une fenêtre de %2 × %3 pixels</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
