@@ -2,6 +2,19 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>DO NOT TRANSLATE!</comment>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <comment>DO NOT TRANSLATE!</comment>
+        <translation>Rehacer</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::AboutPage</name>
     <message>
         <source>Not a readable image</source>
