@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QMouseEvent>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -137,9 +138,10 @@ int CurveUndoTracker::gesture() const
 
 bool CurveUndoTracker::eventFilter(QObject* watched, QEvent* event)
 {
+    // Only the left button drags; a right click opens a menu, which takes the release.
     if (event->type() == QEvent::MouseButtonPress) {
         ++m_gesture;
-        m_buttonHeld = true;
+        m_buttonHeld = static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
     } else if (event->type() == QEvent::MouseButtonRelease) {
         m_buttonHeld = false;
     }
