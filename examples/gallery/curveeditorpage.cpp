@@ -1,5 +1,6 @@
 #include "curveeditorpage.h"
 
+#include "curveundo.h"
 #include "style.h"
 
 #include <kes/qt/discreteapproximator/view.h>
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSlider>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 namespace kes::gallery {
@@ -96,6 +98,10 @@ CurveEditorPage::CurveEditorPage(QWidget* parent)
     layout->addLayout(row, 1);
 
     connect(m_editor, SIGNAL(dataChanged()), this, SLOT(onDataChanged()));
+    // The main window finds the stack among the page's children and offers it in its Edit menu.
+    auto* undoStack = new QUndoStack(this);
+    undoStack->setObjectName(QStringLiteral("curveUndoStack"));
+    new CurveUndoTracker(m_editor, undoStack, this);
     connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(updateOperatingPoint()));
 
     retranslate();

@@ -1,12 +1,18 @@
 #include "mainwindow.h"
 
+#include "optionpages.h"
 #include "page.h"
 
+#include <kes/qt/filehistory.h>
+#include <kes/qt/gui/option/dialog.h>
 #include <kes/qt/translation/manager.h>
+#include <kes/qt/undoaction.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QIcon>
 #include <QKeySequence>
 #include <QListWidget>
@@ -14,8 +20,12 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStatusBar>
+#include <QUndoGroup>
+#include <QUndoStack>
 
 namespace kes::gallery {
 
@@ -24,6 +34,18 @@ namespace {
 constexpr int defaultWidth = 1100;
 constexpr int defaultHeight = 720;
 constexpr int pageListWidth = 180;
+
+// The undo and redo actions take their first word from Qt's own catalogue, as Qt's actions do,
+// under a context and comment that Qt's message files do not cover; these keep the gallery's
+// translations of the words in its .ts files.
+[[maybe_unused]] const struct
+{
+    const char* source;
+    const char* comment;
+} undoWords[] = {
+    QT_TRANSLATE_NOOP3("QUndoStack", "Undo", "DO NOT TRANSLATE!"),
+    QT_TRANSLATE_NOOP3("QUndoStack", "Redo", "DO NOT TRANSLATE!"),
+};
 
 bool isValidPageId(const QString& id)
 {
@@ -70,8 +92,38 @@ MainWindow::MainWindow(QWidget* parent)
     m_aboutQtAction->setMenuRole(QAction::AboutQtRole);
     connect(m_aboutQtAction, &QAction::triggered, qApp, &QApplication::aboutQt);
 
+    m_openAction = new QAction(this);
+    m_openAction->setObjectName(QStringLiteral("openAction"));
+    m_openAction->setIcon(QIcon(QStringLiteral(":/kes_qt/icons/fileopen.png")));
+    m_openAction->setShortcut(QKeySequence::Open);
+    connect(m_openAction, &QAction::triggered, this, &MainWindow::openFile);
+
+    m_fileHistory = new kes::qt::FileHistory(this);
+    m_fileHistory->menu()->setObjectName(QStringLiteral("recentFilesMenu"));
+    connect(m_fileHistory, SIGNAL(triggered(QString)), this, SLOT(openRecentFile(QString)));
+
     m_fileMenu = menuBar()->addMenu(QString());
+    m_fileMenu->addAction(m_openAction);
+    m_fileMenu->addMenu(m_fileHistory->menu());
+    m_fileMenu->addSeparator();
     m_fileMenu->addAction(m_quitAction);
+
+    // Undo and redo follow the stack of the current page, and are disabled on pages without one.
+    m_undoGroup = new QUndoGroup(this);
+    m_settingsAction = new QAction(this);
+    m_settingsAction->setObjectName(QStringLiteral("settingsAction"));
+    m_settingsAction->setMenuRole(QAction::PreferencesRole);
+    connect(m_settingsAction, &QAction::triggered, this, &MainWindow::showSettings);
+    m_editMenu = menuBar()->addMenu(QString());
+    QAction* undo = kes::qt::UndoAction::createUndoAction(m_undoGroup, this);
+    undo->setObjectName(QStringLiteral("undoAction"));
+    QAction* redo = kes::qt::UndoAction::createRedoAction(m_undoGroup, this);
+    redo->setObjectName(QStringLiteral("redoAction"));
+    m_editMenu->addAction(undo);
+    m_editMenu->addAction(redo);
+    m_editMenu->addSeparator();
+    m_editMenu->addAction(m_settingsAction);
+
     m_helpMenu = menuBar()->addMenu(QString());
     m_helpMenu->addAction(m_aboutQtAction);
 
@@ -106,6 +158,9 @@ void MainWindow::addPage(Page* page)
 
     m_pages.append(page);
     m_pageStack->addWidget(page);
+    if (auto* stack = page->findChild<QUndoStack*>()) {
+        m_undoGroup->addStack(stack);
+    }
     auto* item = new QListWidgetItem(page->title(), m_pageList);
     item->setData(Qt::UserRole, id);
     if (m_pages.size() == 1) {
@@ -198,6 +253,9 @@ void MainWindow::retranslateUi()
     setLocale(locale);
     setWindowTitle(tr("libkes_qt gallery"));
     m_fileMenu->setTitle(tr("&File"));
+    m_openAction->setText(tr("&Open\u2026"));
+    m_editMenu->setTitle(tr("&Edit"));
+    m_settingsAction->setText(tr("&Settings\u2026"));
     m_quitAction->setText(tr("&Quit"));
     m_helpMenu->setTitle(tr("&Help"));
     if (m_viewMenu) {
@@ -213,6 +271,7 @@ void MainWindow::retranslateUi()
 
 void MainWindow::onCurrentRowChanged(int row)
 {
+    QUndoStack* stack = nullptr;
     if (row >= 0 && row < m_pages.size()) {
         // The window's least size is the shown page's, not the largest of all pages.
         for (Page* page : qAsConst(m_pages)) {
@@ -221,9 +280,39 @@ void MainWindow::onCurrentRowChanged(int row)
             page->setSizePolicy(policy, policy);
         }
         m_pageStack->setCurrentWidget(m_pages.at(row));
+        stack = m_pages.at(row)->findChild<QUndoStack*>();
     }
+    m_undoGroup->setActiveStack(stack);
     updateActivePage();
     Q_EMIT currentPageChanged(currentPage());
+}
+
+void MainWindow::openFile()
+{
+    const QString fileName = QFileDialog::getOpenFileName(
+        this, tr("Open a file"), QSettings().value(QStringLiteral("loadDirectory")).toString());
+    if (!fileName.isEmpty()) {
+        openRecentFile(fileName);
+    }
+}
+
+void MainWindow::openRecentFile(const QString& fileName)
+{
+    const QFileInfo file(fileName);
+    if (!file.isFile()) {
+        statusBar()->showMessage(tr("%1 no longer exists").arg(fileName), 5000);
+        return;
+    }
+    // The gallery does not show arbitrary files; it records them as an application would.
+    m_fileHistory->add(file);
+    statusBar()->showMessage(tr("Opened %1 (%2 bytes)").arg(file.absoluteFilePath()).arg(file.size()),
+                             5000);
+}
+
+void MainWindow::showSettings()
+{
+    // Disabled while the dialog is open, so there is never more than one.
+    createOptionsDialog(*this, m_settingsAction)->show();
 }
 
 void MainWindow::updateActivePage()

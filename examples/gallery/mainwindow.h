@@ -10,6 +10,11 @@ class QListWidget;
 class QMenu;
 class QSplitter;
 class QStackedWidget;
+class QUndoGroup;
+
+namespace kes::qt {
+class FileHistory;
+}
 
 namespace kes::gallery {
 
@@ -28,7 +33,8 @@ public:
     ~MainWindow() override;
 
     /// Appends \a page to the list and takes ownership of it. The first page added becomes the
-    /// current one. A page whose id is malformed or already taken is a programming error and
+    /// current one. A QUndoStack among the page's children drives Edit > Undo and Redo while the
+    /// page is current. A page whose id is malformed or already taken is a programming error and
     /// aborts, since its screenshot would be unusable or overwrite another page's.
     void addPage(Page* page);
     /// The pages in the order they were added.
@@ -42,6 +48,9 @@ public:
     void setCurrentPage(Page* page);
 
     QMenu* fileMenu() const { return m_fileMenu; }
+    QMenu* editMenu() const { return m_editMenu; }
+    /// The recently opened files, offered in the File menu; pages that open files add them.
+    kes::qt::FileHistory* fileHistory() const { return m_fileHistory; }
     QMenu* helpMenu() const { return m_helpMenu; }
     /// The View menu, for the toggle actions of dock panels; put into the menu bar, before Help,
     /// on the first call, so that it is not shown empty.
@@ -60,6 +69,9 @@ protected:
 
 private Q_SLOTS:
     void retranslateUi();
+    void openFile();
+    void openRecentFile(const QString& fileName);
+    void showSettings();
 
 private:
     void onCurrentRowChanged(int row);
@@ -72,9 +84,14 @@ private:
     QPointer<Page> m_activePage;
 
     QMenu* m_fileMenu = nullptr;
+    QMenu* m_editMenu = nullptr;
     QMenu* m_helpMenu = nullptr;
     QMenu* m_viewMenu = nullptr;
     QAction* m_quitAction = nullptr;
+    QAction* m_openAction = nullptr;
+    QAction* m_settingsAction = nullptr;
+    QUndoGroup* m_undoGroup = nullptr;
+    kes::qt::FileHistory* m_fileHistory = nullptr;
     QAction* m_aboutQtAction = nullptr;
 };
 

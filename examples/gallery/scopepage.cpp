@@ -1,5 +1,6 @@
 #include "scopepage.h"
 
+#include "gallerysettings.h"
 #include "style.h"
 
 #include <kes/qt/scope/view.h>
@@ -117,8 +118,12 @@ ScopePage::ScopePage(QWidget* parent)
     m_sampleTimer->setInterval(20);
     connect(m_sampleTimer, SIGNAL(timeout()), this, SLOT(addSamples()));
     m_frameTimer = new QTimer(this);
-    m_frameTimer->setInterval(1000 / 30);
+    GallerySettings& settings = GallerySettings::instance();
+    settings.declareFrameRate(id(), 30);
+    m_frameTimer->setInterval(1000 / settings.frameRate(id()));
     connect(m_frameTimer, SIGNAL(timeout()), m_view, SLOT(redraw()));
+    connect(&settings, SIGNAL(frameRateChanged(QString, int)), this,
+            SLOT(applyFrameRate(QString, int)));
 
     QMetaObject::connectSlotsByName(this);
     retranslate();
@@ -164,6 +169,12 @@ void ScopePage::deactivated()
 {
     m_sampleTimer->stop();
     m_frameTimer->stop();
+}
+
+void ScopePage::applyFrameRate(const QString& pageId, int rate)
+{
+    if (pageId == id())
+        m_frameTimer->setInterval(1000 / rate);
 }
 
 std::chrono::milliseconds ScopePage::settleTime() const

@@ -36,6 +36,8 @@ public:
 
 private Q_SLOTS:
     void addSamples();
+    /// The frame rate chosen in the options dialog.
+    void applyFrameRate(const QString& pageId, int rate);
     void on_channels_valueChanged(int count);
     void on_level_valueChanged(double level);
     void on_view_triggerPositionChanged(int channel, double level);

@@ -2,6 +2,19 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>DO NOT TRANSLATE!</comment>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <comment>DO NOT TRANSLATE!</comment>
+        <translation>Wiederholen</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::AboutPage</name>
     <message>
         <source>Not a readable image</source>
@@ -57,6 +70,25 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::CurveEdit</name>
+    <message>
+        <source>Move point %1</source>
+        <translation>Punkt %1 verschieben</translation>
+    </message>
+    <message>
+        <source>Insert point %1</source>
+        <translation>Punkt %1 einfügen</translation>
+    </message>
+    <message>
+        <source>Remove point %1</source>
+        <translation>Punkt %1 entfernen</translation>
+    </message>
+    <message>
+        <source>Paste points</source>
+        <translation>Punkte einfügen</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::CurveEditorPage</name>
     <message>
         <source>Curve editor</source>
@@ -97,6 +129,51 @@
     <message>
         <source>dataChanged() received: %1</source>
         <translation>dataChanged() empfangen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::FilesOptionPage</name>
+    <message>
+        <source>There is no folder &quot;%1&quot;. Enter an existing folder.</source>
+        <translation>Es gibt keinen Ordner „%1“. Geben Sie einen vorhandenen Ordner an.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;Open starts in:</source>
+        <translation>Ö&amp;ffnen beginnt in:</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::FrameRateOptionPage</name>
+    <message>
+        <source>Frame rates</source>
+        <translation>Bildraten</translation>
+    </message>
+    <message>
+        <source>How often the live pages redraw while they are shown.</source>
+        <translation>Wie oft die Live-Seiten neu zeichnen, während sie angezeigt werden.</translation>
+    </message>
+    <message>
+        <source> per second</source>
+        <translation> pro Sekunde</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::LanguageOptionPage</name>
+    <message>
+        <source>Start language</source>
+        <translation>Startsprache</translation>
+    </message>
+    <message>
+        <source>&amp;Language at start:</source>
+        <translation>&amp;Sprache beim Start:</translation>
+    </message>
+    <message>
+        <source>Takes effect when the gallery starts next. The Languages menu switches at once, and the gallery starts in the language chosen last.</source>
+        <translation>Gilt beim nächsten Start der Galerie. Das Sprachmenü schaltet sofort um, und die Galerie startet in der zuletzt gewählten Sprache.</translation>
     </message>
 </context>
 <context>
@@ -201,6 +278,45 @@
     <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Einstellungen…</translation>
+    </message>
+    <message>
+        <source>Open a file</source>
+        <translation>Datei öffnen</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 existiert nicht mehr</translation>
+    </message>
+    <message>
+        <source>Opened %1 (%2 bytes)</source>
+        <translation>%1 geöffnet (%2 Bytes)</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::OptionsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Live pages</source>
+        <translation>Live-Seiten</translation>
     </message>
 </context>
 <context>

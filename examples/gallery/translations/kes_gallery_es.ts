@@ -2,6 +2,19 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>DO NOT TRANSLATE!</comment>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <comment>DO NOT TRANSLATE!</comment>
+        <translation>Rehacer</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::AboutPage</name>
     <message>
         <source>Not a readable image</source>
@@ -57,6 +70,25 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::CurveEdit</name>
+    <message>
+        <source>Move point %1</source>
+        <translation>Mover el punto %1</translation>
+    </message>
+    <message>
+        <source>Insert point %1</source>
+        <translation>Insertar el punto %1</translation>
+    </message>
+    <message>
+        <source>Remove point %1</source>
+        <translation>Eliminar el punto %1</translation>
+    </message>
+    <message>
+        <source>Paste points</source>
+        <translation>Pegar los puntos</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::CurveEditorPage</name>
     <message>
         <source>Curve editor</source>
@@ -97,6 +129,51 @@
     <message>
         <source>dataChanged() received: %1</source>
         <translation>dataChanged() recibidos: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::FilesOptionPage</name>
+    <message>
+        <source>There is no folder &quot;%1&quot;. Enter an existing folder.</source>
+        <translation>No existe la carpeta «%1». Indique una carpeta existente.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Open starts in:</source>
+        <translation>&amp;Abrir empieza en:</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::FrameRateOptionPage</name>
+    <message>
+        <source>Frame rates</source>
+        <translation>Frecuencias de imagen</translation>
+    </message>
+    <message>
+        <source>How often the live pages redraw while they are shown.</source>
+        <translation>Con qué frecuencia se redibujan las páginas en vivo mientras se muestran.</translation>
+    </message>
+    <message>
+        <source> per second</source>
+        <translation> por segundo</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::LanguageOptionPage</name>
+    <message>
+        <source>Start language</source>
+        <translation>Idioma de inicio</translation>
+    </message>
+    <message>
+        <source>&amp;Language at start:</source>
+        <translation>&amp;Idioma al iniciar:</translation>
+    </message>
+    <message>
+        <source>Takes effect when the gallery starts next. The Languages menu switches at once, and the gallery starts in the language chosen last.</source>
+        <translation>Se aplica la próxima vez que se inicie la galería. El menú de idiomas cambia al instante, y la galería se inicia en el último idioma elegido.</translation>
     </message>
 </context>
 <context>
@@ -201,6 +278,45 @@
     <message>
         <source>&amp;View</source>
         <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Configuración…</translation>
+    </message>
+    <message>
+        <source>Open a file</source>
+        <translation>Abrir un archivo</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 ya no existe</translation>
+    </message>
+    <message>
+        <source>Opened %1 (%2 bytes)</source>
+        <translation>%1 abierto (%2 bytes)</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::OptionsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Live pages</source>
+        <translation>Páginas en vivo</translation>
     </message>
 </context>
 <context>

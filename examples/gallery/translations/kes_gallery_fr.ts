@@ -2,6 +2,19 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>DO NOT TRANSLATE!</comment>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <comment>DO NOT TRANSLATE!</comment>
+        <translation>Rétablir</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::AboutPage</name>
     <message>
         <source>Not a readable image</source>
@@ -57,6 +70,25 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::CurveEdit</name>
+    <message>
+        <source>Move point %1</source>
+        <translation>Déplacer le point %1</translation>
+    </message>
+    <message>
+        <source>Insert point %1</source>
+        <translation>Insérer le point %1</translation>
+    </message>
+    <message>
+        <source>Remove point %1</source>
+        <translation>Supprimer le point %1</translation>
+    </message>
+    <message>
+        <source>Paste points</source>
+        <translation>Coller les points</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::CurveEditorPage</name>
     <message>
         <source>Curve editor</source>
@@ -97,6 +129,51 @@
     <message>
         <source>dataChanged() received: %1</source>
         <translation>dataChanged() reçus : %1</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::FilesOptionPage</name>
+    <message>
+        <source>There is no folder &quot;%1&quot;. Enter an existing folder.</source>
+        <translation>Le dossier « %1 » n’existe pas. Indiquez un dossier existant.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Open starts in:</source>
+        <translation>&amp;Ouvrir commence dans :</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::FrameRateOptionPage</name>
+    <message>
+        <source>Frame rates</source>
+        <translation>Fréquences d’images</translation>
+    </message>
+    <message>
+        <source>How often the live pages redraw while they are shown.</source>
+        <translation>La fréquence à laquelle les pages en direct se redessinent pendant qu’elles sont affichées.</translation>
+    </message>
+    <message>
+        <source> per second</source>
+        <translation> par seconde</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::LanguageOptionPage</name>
+    <message>
+        <source>Start language</source>
+        <translation>Langue de démarrage</translation>
+    </message>
+    <message>
+        <source>&amp;Language at start:</source>
+        <translation>&amp;Langue au démarrage :</translation>
+    </message>
+    <message>
+        <source>Takes effect when the gallery starts next. The Languages menu switches at once, and the gallery starts in the language chosen last.</source>
+        <translation>Prend effet au prochain démarrage de la galerie. Le menu des langues change immédiatement, et la galerie démarre dans la dernière langue choisie.</translation>
     </message>
 </context>
 <context>
@@ -201,6 +278,45 @@
     <message>
         <source>&amp;View</source>
         <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Paramètres…</translation>
+    </message>
+    <message>
+        <source>Open a file</source>
+        <translation>Ouvrir un fichier</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 n’existe plus</translation>
+    </message>
+    <message>
+        <source>Opened %1 (%2 bytes)</source>
+        <translation>%1 ouvert (%2 octets)</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::OptionsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Live pages</source>
+        <translation>Pages en direct</translation>
     </message>
 </context>
 <context>

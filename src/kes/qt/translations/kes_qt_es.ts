@@ -2,6 +2,20 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>kes::qt::FileHistory</name>
+    <message>
+        <source>Recent Files</source>
+        <translation>Archivos recientes</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::FileHistory2</name>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>&amp;Proyectos recientes</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::discreteapproximator::ContextMenu</name>
     <message>
         <source>Insert point before</source>

@@ -1,0 +1,28 @@
+#ifndef KES_QT_GUI_OPTION_PAGE_H
+#define KES_QT_GUI_OPTION_PAGE_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QWidget>
+
+namespace kes::qt::gui::option {
+
+/// One page of settings in an options Dialog; applications derive one per group of settings.
+///
+/// The page's window title is its name in the dialog's tree.
+class KES_QT_EXPORT Page : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Page(QWidget* parent = nullptr);
+    ~Page() override;
+
+    /// Called when the user confirms the dialog: apply the page's settings and return true, or
+    /// report the invalid input and return false to keep the dialog open.
+    virtual bool finish();
+};
+
+} // namespace kes::qt::gui::option
+
+#endif

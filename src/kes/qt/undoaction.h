@@ -1,0 +1,57 @@
+#ifndef KES_QT_UNDOACTION_H
+#define KES_QT_UNDOACTION_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QAction>
+#include <QString>
+
+#include <memory>
+
+class QUndoGroup;
+class QUndoStack;
+
+namespace kes::qt {
+
+struct UndoActionPrivate;
+
+/// An undo or redo action following a QUndoStack or a QUndoGroup's active stack which, unlike
+/// the toolkit's own, re-labels itself when the language changes.
+///
+/// The label is "Undo" or "Redo", as Qt's own catalogue translates it, followed by the
+/// description of the command in question: its UndoCommand::translatedText() when it has one,
+/// else the text the stack reported last. The factories return ready-wired actions; the plain
+/// constructors only keep the label up to date.
+class KES_QT_EXPORT UndoAction : public QAction
+{
+    Q_OBJECT
+
+public:
+    /// \a stack is followed, not owned, and may be null.
+    UndoAction(bool redo, QUndoStack* stack, QObject* parent);
+    /// \a group is followed, not owned, and may be null; its active stack is used.
+    UndoAction(bool redo, QUndoGroup* group, QObject* parent);
+    ~UndoAction() override;
+
+    /// Actions enabled, labelled and triggering like QUndoStack::createUndoAction() and its
+    /// relatives, owned by \a parent.
+    static UndoAction* createUndoAction(QUndoStack* stack, QObject* parent);
+    static UndoAction* createRedoAction(QUndoStack* stack, QObject* parent);
+    static UndoAction* createUndoAction(QUndoGroup* group, QObject* parent);
+    static UndoAction* createRedoAction(QUndoGroup* group, QObject* parent);
+
+    bool isRedo() const;
+    /// The description last received from the stack or group.
+    QString prefixedText() const;
+
+public Q_SLOTS:
+    void setPrefixedText(const QString& text);
+    void translate();
+
+private:
+    std::unique_ptr<UndoActionPrivate> d;
+};
+
+} // namespace kes::qt
+
+#endif
