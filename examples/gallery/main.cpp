@@ -1,5 +1,6 @@
 #include "aboutpage.h"
 #include "curveeditorpage.h"
+#include "inputwidgetspage.h"
 #include "logpage.h"
 #include "mainwindow.h"
 #include "page.h"
@@ -44,6 +45,7 @@ void addPages(MainWindow& window)
     window.addPage(new kes::gallery::LogPage(window));
     window.addPage(new kes::gallery::ScopePage);
     window.addPage(new kes::gallery::CurveEditorPage);
+    window.addPage(new kes::gallery::InputWidgetsPage);
 }
 
 // The log hub for the whole run; declared before the window, whose log panel shows it, so that it

@@ -162,6 +162,97 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::InputWidgetsPage</name>
+    <message>
+        <source>Input widgets</source>
+        <translation>Eingabefelder</translation>
+    </message>
+    <message>
+        <source>Camera parameters</source>
+        <translation>Kameraparameter</translation>
+    </message>
+    <message>
+        <source>Gain, black level and trigger mode turn light blue while a new value is typed: Return or leaving the field commits it, Escape brings back the committed one, and Return on an unchanged number sends nothing. The exposure takes any double in plain or exponent notation (2e-3) and its arrows step by decades; the sensor register is typed in hexadecimal.</source>
+        <translation>Verstärkung, Schwarzwert und Triggermodus werden hellblau, während ein neuer Wert getippt wird: Return oder das Verlassen des Feldes übernimmt ihn, Escape holt den übernommenen zurück, und Return auf einer unveränderten Zahl sendet nichts. Die Belichtung nimmt jede Gleitkommazahl in einfacher oder Exponentenschreibweise (2e-3), ihre Pfeile schalten um Dekaden; das Sensorregister wird hexadezimal eingegeben.</translation>
+    </message>
+    <message>
+        <source>Camera 1</source>
+        <translation>Kamera 1</translation>
+    </message>
+    <message>
+        <source>Exposure:</source>
+        <translation>Belichtung:</translation>
+    </message>
+    <message>
+        <source>Gain:</source>
+        <translation>Verstärkung:</translation>
+    </message>
+    <message>
+        <source>Black level:</source>
+        <translation>Schwarzwert:</translation>
+    </message>
+    <message>
+        <source>Trigger mode:</source>
+        <translation>Triggermodus:</translation>
+    </message>
+    <message>
+        <source>Register address</source>
+        <translation>Registeradresse</translation>
+    </message>
+    <message>
+        <source>Register value</source>
+        <translation>Registerwert</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Frame rate [fps]</source>
+        <translation>Bildrate [fps]</translation>
+    </message>
+    <message>
+        <source>Binning</source>
+        <translation>Binning</translation>
+    </message>
+    <message>
+        <source>Pixel format</source>
+        <translation>Pixelformat</translation>
+    </message>
+    <message>
+        <source>Colour while editing</source>
+        <translation>Farbe beim Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Highlight the gain</source>
+        <translation>Verstärkung hervorheben</translation>
+    </message>
+    <message>
+        <source>Signals received</source>
+        <translation>Empfangene Signale</translation>
+    </message>
+    <message>
+        <source>Gain, black level and trigger mode share one slot per signal signature; the user data names the parameter.</source>
+        <translation>Verstärkung, Schwarzwert und Triggermodus teilen sich einen Slot pro Signalsignatur; die Benutzerdaten nennen den Parameter.</translation>
+    </message>
+    <message>
+        <source>black level</source>
+        <translation>Schwarzwert</translation>
+    </message>
+    <message>
+        <source>gain</source>
+        <translation>Verstärkung</translation>
+    </message>
+    <message>
+        <source>trigger mode</source>
+        <translation>Triggermodus</translation>
+    </message>
+    <message>
+        <source>exposure</source>
+        <translation>Belichtung</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::LanguageOptionPage</name>
     <message>
         <source>Start language</source>

@@ -162,6 +162,97 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::InputWidgetsPage</name>
+    <message>
+        <source>Input widgets</source>
+        <translation>Campos de entrada</translation>
+    </message>
+    <message>
+        <source>Camera parameters</source>
+        <translation>Parámetros de la cámara</translation>
+    </message>
+    <message>
+        <source>Gain, black level and trigger mode turn light blue while a new value is typed: Return or leaving the field commits it, Escape brings back the committed one, and Return on an unchanged number sends nothing. The exposure takes any double in plain or exponent notation (2e-3) and its arrows step by decades; the sensor register is typed in hexadecimal.</source>
+        <translation>La ganancia, el nivel de negro y el modo de disparo se vuelven azul claro mientras se escribe un valor nuevo: Intro o salir del campo lo confirma, Escape recupera el valor confirmado, e Intro sobre un número sin cambios no envía nada. La exposición admite cualquier número en notación normal o exponencial (2e-3) y sus flechas avanzan por décadas; el registro del sensor se escribe en hexadecimal.</translation>
+    </message>
+    <message>
+        <source>Camera 1</source>
+        <translation>Cámara 1</translation>
+    </message>
+    <message>
+        <source>Exposure:</source>
+        <translation>Exposición:</translation>
+    </message>
+    <message>
+        <source>Gain:</source>
+        <translation>Ganancia:</translation>
+    </message>
+    <message>
+        <source>Black level:</source>
+        <translation>Nivel de negro:</translation>
+    </message>
+    <message>
+        <source>Trigger mode:</source>
+        <translation>Modo de disparo:</translation>
+    </message>
+    <message>
+        <source>Register address</source>
+        <translation>Dirección del registro</translation>
+    </message>
+    <message>
+        <source>Register value</source>
+        <translation>Valor del registro</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Frame rate [fps]</source>
+        <translation>Frecuencia de imagen [fps]</translation>
+    </message>
+    <message>
+        <source>Binning</source>
+        <translation>Binning</translation>
+    </message>
+    <message>
+        <source>Pixel format</source>
+        <translation>Formato de píxel</translation>
+    </message>
+    <message>
+        <source>Colour while editing</source>
+        <translation>Color durante la edición</translation>
+    </message>
+    <message>
+        <source>Highlight the gain</source>
+        <translation>Resaltar la ganancia</translation>
+    </message>
+    <message>
+        <source>Signals received</source>
+        <translation>Señales recibidas</translation>
+    </message>
+    <message>
+        <source>Gain, black level and trigger mode share one slot per signal signature; the user data names the parameter.</source>
+        <translation>La ganancia, el nivel de negro y el modo de disparo comparten un slot por firma de señal; los datos de usuario nombran el parámetro.</translation>
+    </message>
+    <message>
+        <source>black level</source>
+        <translation>nivel de negro</translation>
+    </message>
+    <message>
+        <source>gain</source>
+        <translation>ganancia</translation>
+    </message>
+    <message>
+        <source>trigger mode</source>
+        <translation>modo de disparo</translation>
+    </message>
+    <message>
+        <source>exposure</source>
+        <translation>exposición</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::LanguageOptionPage</name>
     <message>
         <source>Start language</source>

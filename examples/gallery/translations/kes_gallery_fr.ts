@@ -162,6 +162,97 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::InputWidgetsPage</name>
+    <message>
+        <source>Input widgets</source>
+        <translation>Champs de saisie</translation>
+    </message>
+    <message>
+        <source>Camera parameters</source>
+        <translation>Paramètres de la caméra</translation>
+    </message>
+    <message>
+        <source>Gain, black level and trigger mode turn light blue while a new value is typed: Return or leaving the field commits it, Escape brings back the committed one, and Return on an unchanged number sends nothing. The exposure takes any double in plain or exponent notation (2e-3) and its arrows step by decades; the sensor register is typed in hexadecimal.</source>
+        <translation>Le gain, le niveau de noir et le mode de déclenchement passent au bleu clair pendant la saisie d&apos;une nouvelle valeur : Entrée ou la sortie du champ la valide, Échap rétablit la valeur validée, et Entrée sur un nombre inchangé n&apos;envoie rien. L&apos;exposition accepte tout nombre en notation simple ou exponentielle (2e-3) et ses flèches avancent par décades ; le registre du capteur se saisit en hexadécimal.</translation>
+    </message>
+    <message>
+        <source>Camera 1</source>
+        <translation>Caméra 1</translation>
+    </message>
+    <message>
+        <source>Exposure:</source>
+        <translation>Exposition :</translation>
+    </message>
+    <message>
+        <source>Gain:</source>
+        <translation>Gain :</translation>
+    </message>
+    <message>
+        <source>Black level:</source>
+        <translation>Niveau de noir :</translation>
+    </message>
+    <message>
+        <source>Trigger mode:</source>
+        <translation>Mode de déclenchement :</translation>
+    </message>
+    <message>
+        <source>Register address</source>
+        <translation>Adresse du registre</translation>
+    </message>
+    <message>
+        <source>Register value</source>
+        <translation>Valeur du registre</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Frame rate [fps]</source>
+        <translation>Cadence [i/s]</translation>
+    </message>
+    <message>
+        <source>Binning</source>
+        <translation>Binning</translation>
+    </message>
+    <message>
+        <source>Pixel format</source>
+        <translation>Format de pixel</translation>
+    </message>
+    <message>
+        <source>Colour while editing</source>
+        <translation>Couleur pendant la saisie</translation>
+    </message>
+    <message>
+        <source>Highlight the gain</source>
+        <translation>Mettre le gain en évidence</translation>
+    </message>
+    <message>
+        <source>Signals received</source>
+        <translation>Signaux reçus</translation>
+    </message>
+    <message>
+        <source>Gain, black level and trigger mode share one slot per signal signature; the user data names the parameter.</source>
+        <translation>Le gain, le niveau de noir et le mode de déclenchement partagent un slot par signature de signal ; les données utilisateur nomment le paramètre.</translation>
+    </message>
+    <message>
+        <source>black level</source>
+        <translation>niveau de noir</translation>
+    </message>
+    <message>
+        <source>gain</source>
+        <translation>gain</translation>
+    </message>
+    <message>
+        <source>trigger mode</source>
+        <translation>mode de déclenchement</translation>
+    </message>
+    <message>
+        <source>exposure</source>
+        <translation>exposition</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::LanguageOptionPage</name>
     <message>
         <source>Start language</source>

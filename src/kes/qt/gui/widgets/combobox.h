@@ -1,0 +1,68 @@
+#ifndef KES_QT_GUI_WIDGETS_COMBOBOX_H
+#define KES_QT_GUI_WIDGETS_COMBOBOX_H
+
+#include <kes/qt/gui/widgets/userdata.h>
+#include <kes/qt/gui/widgets/widget.h>
+#include <kes/qt/kes_qt_export.h>
+
+#include <QComboBox>
+
+#include <memory>
+
+namespace kes::qt::gui::widgets {
+
+struct ComboBoxPrivate;
+
+/// A combo box for parameter editors: text typed into an editable box shows the Editing colour
+/// until an entry is activated (Return or a choice from the list), Escape brings back the last
+/// activated or set text, and every signal carries the user data given to the constructor.
+///
+/// Created without a parent: placing it into a layout gives it one.
+class KES_QT_EXPORT ComboBox : public QComboBox, public Widget, public UserData<void*>
+{
+    Q_OBJECT
+
+public:
+    ComboBox();
+    explicit ComboBox(void* userData);
+    ~ComboBox() override;
+
+    // QObject has a userData() of its own.
+    using UserData<void*>::userData;
+
+    /// The text of the last activation or setEditText().
+    QString committedText() const;
+
+public Q_SLOTS:
+    /// Sets the text as committed; it is not marked as being edited.
+    void setEditText(const QString& text);
+
+    void on_activated(int index);
+    void on_activated(const QString& text);
+    void on_currentIndexChanged(int index);
+    void on_currentIndexChanged(const QString& text);
+    void on_highlighted(int index);
+    void on_highlighted(const QString& text);
+    void on_editTextChanged(const QString& text);
+
+Q_SIGNALS:
+    void activated(int index, void* userData);
+    void activated(const QString& text, void* userData);
+    void currentIndexChanged(int index, void* userData);
+    void currentIndexChanged(const QString& text, void* userData);
+    void editTextChanged(const QString& text, void* userData);
+    void highlighted(int index, void* userData);
+    void highlighted(const QString& text, void* userData);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void init();
+
+    std::unique_ptr<ComboBoxPrivate> d;
+};
+
+} // namespace kes::qt::gui::widgets
+
+#endif

@@ -1,0 +1,44 @@
+#ifndef KES_QT_GUI_WIDGETS_LABELEDHEXSPINBOX_H
+#define KES_QT_GUI_WIDGETS_LABELEDHEXSPINBOX_H
+
+#include <kes/qt/gui/widgets/abstractlabeledwidget.h>
+#include <kes/qt/kes_qt_export.h>
+
+#include <memory>
+
+class QLineEdit;
+
+namespace kes::qt::gui::widgets {
+
+class LabeledHexSpinBoxImpl;
+struct LabeledHexSpinBoxPrivate;
+
+/// A label in front of the hexadecimal spin box, whose signals it re-emits as its own.
+class KES_QT_EXPORT LabeledHexSpinBox : public AbstractLabeledWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LabeledHexSpinBox(QWidget* parent = nullptr);
+    explicit LabeledHexSpinBox(const QString& labelText, QWidget* parent = nullptr);
+    ~LabeledHexSpinBox() override;
+
+    QWidget* widget() const override;
+    LabeledHexSpinBoxImpl* hexSpinBox() const;
+    /// Replaces the spin box's line edit, which the spin box then owns.
+    void setLineEdit(QLineEdit* edit);
+
+Q_SIGNALS:
+    void valueChanged(int value);
+    void valueChanged(const QString& text);
+    void editingFinished();
+
+private:
+    void init();
+
+    std::unique_ptr<LabeledHexSpinBoxPrivate> d;
+};
+
+} // namespace kes::qt::gui::widgets
+
+#endif

@@ -1,0 +1,44 @@
+#ifndef KES_QT_GUI_WIDGETS_LABELEDSPINBOX_H
+#define KES_QT_GUI_WIDGETS_LABELEDSPINBOX_H
+
+#include <kes/qt/gui/widgets/abstractlabeledwidget.h>
+#include <kes/qt/kes_qt_export.h>
+
+#include <memory>
+
+class QLineEdit;
+
+namespace kes::qt::gui::widgets {
+
+class LabeledSpinBoxImpl;
+struct LabeledSpinBoxPrivate;
+
+/// A label in front of the spin box, whose signals it re-emits as its own.
+class KES_QT_EXPORT LabeledSpinBox : public AbstractLabeledWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LabeledSpinBox(QWidget* parent = nullptr);
+    explicit LabeledSpinBox(const QString& labelText, QWidget* parent = nullptr);
+    ~LabeledSpinBox() override;
+
+    QWidget* widget() const override;
+    LabeledSpinBoxImpl* spinBox() const;
+    /// Replaces the spin box's line edit, which the spin box then owns.
+    void setLineEdit(QLineEdit* edit);
+
+Q_SIGNALS:
+    void valueChanged(int value);
+    void valueChanged(const QString& text);
+    void editingFinished();
+
+private:
+    void init();
+
+    std::unique_ptr<LabeledSpinBoxPrivate> d;
+};
+
+} // namespace kes::qt::gui::widgets
+
+#endif

@@ -1,0 +1,27 @@
+#ifndef KES_QT_GUI_WIDGETS_LABELEDSPINBOXIMPL_H
+#define KES_QT_GUI_WIDGETS_LABELEDSPINBOXIMPL_H
+
+#include <kes/qt/kes_qt_export.h>
+
+#include <QSpinBox>
+
+class QLineEdit;
+
+namespace kes::qt::gui::widgets {
+
+/// The field of a labelled widget: a QSpinBox whose line edit can be replaced from outside.
+class KES_QT_EXPORT LabeledSpinBoxImpl : public QSpinBox
+{
+    Q_OBJECT
+
+public:
+    explicit LabeledSpinBoxImpl(QWidget* parent = nullptr);
+    ~LabeledSpinBoxImpl() override;
+
+    /// Replaces the line edit, which the spin box then owns.
+    void setLineEdit(QLineEdit* edit);
+};
+
+} // namespace kes::qt::gui::widgets
+
+#endif

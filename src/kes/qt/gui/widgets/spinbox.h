@@ -1,0 +1,75 @@
+#ifndef KES_QT_GUI_WIDGETS_SPINBOX_H
+#define KES_QT_GUI_WIDGETS_SPINBOX_H
+
+#include <kes/qt/gui/widgets/userdata.h>
+#include <kes/qt/gui/widgets/widget.h>
+#include <kes/qt/kes_qt_export.h>
+
+#include <QSpinBox>
+
+#include <memory>
+
+namespace kes::qt::gui::widgets {
+
+struct SpinBoxPrivate;
+
+/// An integer spin box for parameter editors. Typed text is taken only on Return, on leaving the
+/// field or on stepping, and shows the Editing colour until then; Escape brings back the last
+/// committed value. Return on an unchanged number and leaving an unchanged field emit nothing but
+/// lostFocus(). A step by arrow, wheel or program is committed at once: valueChanged() is followed
+/// by editingFinished(). Every signal carries the user data given to the constructor.
+///
+/// Created without a parent: placing it into a layout gives it one.
+class KES_QT_EXPORT SpinBox : public QSpinBox, public Widget, public UserData<void*>
+{
+    Q_OBJECT
+
+public:
+    SpinBox();
+    explicit SpinBox(void* userData);
+    ~SpinBox() override;
+
+    // QObject has a userData() of its own.
+    using UserData<void*>::userData;
+
+    /// The value of the last Return, focus loss, step or setValue().
+    int committedValue() const;
+
+    /// Like setValue(), without any signal.
+    void directSetValue(int value);
+    /// The integer part of \a minimum, or the int bound it passes (-1e20 gives INT_MIN).
+    void setMinimum(double minimum);
+    /// The integer part of \a maximum, or the int bound it passes (1e20 gives INT_MAX).
+    void setMaximum(double maximum);
+    void setRange(int minimum, int maximum);
+
+public Q_SLOTS:
+    void setValue(int value);
+
+    void on_valueChanged(int value);
+    void on_valueChanged(const QString& text);
+    void on_editingFinished();
+    void on_lineEdit_textChanged(const QString& text);
+
+Q_SIGNALS:
+    void valueChanged(int i, void* userData);
+    void valueChanged(const QString& text, void* userData);
+    void editingFinished(void* userData);
+    void lostFocus();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void init();
+    /// The line edit's text as a number, when it is one the box accepts.
+    bool displayedValue(int* value) const;
+    void normalAfterBoundChange(int before);
+
+    std::unique_ptr<SpinBoxPrivate> d;
+};
+
+} // namespace kes::qt::gui::widgets
+
+#endif

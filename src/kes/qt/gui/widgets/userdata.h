@@ -1,0 +1,27 @@
+#ifndef KES_QT_GUI_WIDGETS_USERDATA_H
+#define KES_QT_GUI_WIDGETS_USERDATA_H
+
+namespace kes::qt::gui::widgets {
+
+/// An opaque value that an input widget carries and appends to every signal, so that one slot can
+/// serve many editors and tell them apart. The widget never interprets it.
+template <typename T>
+class UserData
+{
+public:
+    UserData() = default;
+    explicit UserData(T userData)
+        : m_userData(userData)
+    {
+    }
+
+    T userData() const { return m_userData; }
+    void setUserData(T userData) { m_userData = userData; }
+
+private:
+    T m_userData{};
+};
+
+} // namespace kes::qt::gui::widgets
+
+#endif
