@@ -24,6 +24,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace kes::gallery {
@@ -173,9 +175,21 @@ InputWidgetsPage::InputWidgetsPage(QWidget* parent)
     signalColumn->addWidget(m_signalsNote);
     signalColumn->addWidget(m_signals, 1);
 
+    // The form scrolls in a small window rather than making the window taller.
+    auto* formWidget = new QWidget;
+    formWidget->setLayout(form);
+    form->setContentsMargins(0, 0, 0, 0);
+    auto* formArea = new QScrollArea(this);
+    formArea->setFrameShape(QFrame::NoFrame);
+    formArea->setWidgetResizable(true);
+    formArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    formArea->setWidget(formWidget);
+    formArea->setMinimumWidth(formWidget->minimumSizeHint().width()
+                              + formArea->verticalScrollBar()->sizeHint().width());
+
     auto* columns = new QHBoxLayout;
     columns->setSpacing(28);
-    columns->addLayout(form);
+    columns->addWidget(formArea);
     columns->addLayout(signalColumn, 1);
     layout->addLayout(columns, 1);
 

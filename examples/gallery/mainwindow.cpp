@@ -157,6 +157,8 @@ void MainWindow::addPage(Page* page)
     }
 
     m_pages.append(page);
+    // Until it is shown, a page does not count towards the window's least size.
+    page->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     m_pageStack->addWidget(page);
     if (auto* stack = page->findChild<QUndoStack*>()) {
         m_undoGroup->addStack(stack);
