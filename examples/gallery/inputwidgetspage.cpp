@@ -78,8 +78,9 @@ InputWidgetsPage::InputWidgetsPage(QWidget* parent)
     m_exposure->setObjectName(QStringLiteral("exposure"));
     m_exposure->setRange(1e-6, 10.0);
     m_exposure->setDecadeStepping(true);
+    // No suffix: the box's validator judges the line edit's whole text, so the unit goes into
+    // the label.
     m_exposure->setValue(5e-5);
-    m_exposure->setSuffix(QStringLiteral(" s"));
 
     m_gainLabel = new QLabel(this);
     m_gain = new widgets::DoubleSpinBox(&gainParameter);
@@ -218,6 +219,8 @@ InputWidgetsPage::InputWidgetsPage(QWidget* parent)
     m_gain->setValue(12.5);
     m_offset->setValue(-16);
     m_mode->setEditText(QStringLiteral("Hardware trigger"));
+    // The gain differs from the camera's default: the application marks it.
+    m_highlight->setChecked(true);
 
     retranslate();
     onRegisterChanged();
@@ -245,7 +248,7 @@ void InputWidgetsPage::retranslate()
            "or exponent notation (2e-3) and its arrows step by decades; the sensor register is "
            "typed in hexadecimal."));
     m_formHeading->setText(tr("Camera 1"));
-    m_exposureLabel->setText(tr("Exposure:"));
+    m_exposureLabel->setText(tr("Exposure [s]:"));
     m_gainLabel->setText(tr("Gain:"));
     m_offsetLabel->setText(tr("Black level:"));
     m_modeLabel->setText(tr("Trigger mode:"));

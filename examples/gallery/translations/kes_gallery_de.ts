@@ -180,8 +180,8 @@
         <translation>Kamera 1</translation>
     </message>
     <message>
-        <source>Exposure:</source>
-        <translation>Belichtung:</translation>
+        <source>Exposure [s]:</source>
+        <translation>Belichtung [s]:</translation>
     </message>
     <message>
         <source>Gain:</source>

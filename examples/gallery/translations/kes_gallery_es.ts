@@ -180,8 +180,8 @@
         <translation>Cámara 1</translation>
     </message>
     <message>
-        <source>Exposure:</source>
-        <translation>Exposición:</translation>
+        <source>Exposure [s]:</source>
+        <translation>Exposición [s]:</translation>
     </message>
     <message>
         <source>Gain:</source>

@@ -180,8 +180,8 @@
         <translation>Caméra 1</translation>
     </message>
     <message>
-        <source>Exposure:</source>
-        <translation>Exposition :</translation>
+        <source>Exposure [s]:</source>
+        <translation>Exposition [s] :</translation>
     </message>
     <message>
         <source>Gain:</source>

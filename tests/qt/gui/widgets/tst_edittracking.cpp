@@ -36,6 +36,10 @@ public:
             {SIGNAL(activated(const QString&, void*)), SLOT(onActivated(const QString&, void*))},
             {SIGNAL(editTextChanged(const QString&, void*)), SLOT(onEditText(const QString&, void*))},
             {SIGNAL(currentIndexChanged(int, void*)), SLOT(onIndex(int, void*))},
+            // Checked for their user data only.
+            {SIGNAL(valueChanged(const QString&, void*)), SLOT(onOther(const QString&, void*))},
+            {SIGNAL(activated(int, void*)), SLOT(onOther(int, void*))},
+            {SIGNAL(currentIndexChanged(const QString&, void*)), SLOT(onOther(const QString&, void*))},
         };
         for (const auto& pair : signalsWithData) {
             if (widget->metaObject()->indexOfSignal(QMetaObject::normalizedSignature(pair[0] + 1)) >= 0)
@@ -45,6 +49,7 @@ public:
 
     QStringList events;
     bool userDataRight = true;
+    int others = 0;
 
 public Q_SLOTS:
     void onInt(int value, void* data) { note(QStringLiteral("value %1").arg(value), data); }
@@ -54,8 +59,16 @@ public Q_SLOTS:
     void onActivated(const QString& text, void* data) { note(QStringLiteral("activated ") + text, data); }
     void onEditText(const QString& text, void* data) { note(QStringLiteral("edit ") + text, data); }
     void onIndex(int index, void* data) { note(QStringLiteral("index %1").arg(index), data); }
+    void onOther(const QString&, void* data) { other(data); }
+    void onOther(int, void* data) { other(data); }
 
 private:
+    void other(void* data)
+    {
+        ++others;
+        userDataRight = userDataRight && data == m_userData;
+    }
+
     void note(const QString& event, void* data)
     {
         events << event;
@@ -180,6 +193,8 @@ private Q_SLOTS:
 
         QCOMPARE(recorder.events, events);
         QVERIFY(recorder.userDataRight);
+        // valueChanged(const QString&, void*) comes with every valueChanged(number, void*).
+        QCOMPARE(recorder.others, int(events.filter(QStringLiteral("value")).size()));
         QCOMPARE(base(box), normal);
         QCOMPARE(edit->text(), shown);
     }
@@ -283,6 +298,8 @@ private Q_SLOTS:
         QVERIFY(recorder.events.contains(QStringLiteral("activated Hardware trigger")));
         QVERIFY(recorder.events.contains(QStringLiteral("index 1")));
         QVERIFY(recorder.events.contains(QStringLiteral("edit Hardware trigger")));
+        // activated(int, void*) and currentIndexChanged(const QString&, void*).
+        QCOMPARE(recorder.others, 2);
         QVERIFY(recorder.userDataRight);
         QCOMPARE(combo->committedText(), QStringLiteral("Hardware trigger"));
         QCOMPARE(base(combo), normal);

@@ -24,6 +24,9 @@ struct ScienceSpinBoxPrivate;
 ///
 /// With decadeStepping() the arrows multiply or divide by ten, one decade per step, instead of
 /// adding the single step.
+///
+/// Keystrokes are judged by a QDoubleValidator in the widget's locale on the line edit's whole
+/// text, so a prefix or suffix cannot be typed around: put the unit into a label.
 class KES_QT_EXPORT ScienceSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT
