@@ -3,7 +3,6 @@
 #include <kes/cv/convert.h>
 #include <kes/cv/pixels.h>
 
-#include <QVector>
 
 #include <cstddef>
 #include <cstdint>
@@ -131,7 +130,7 @@ int qtVersion()
     static unsigned int version = 0;
     if (version != 0)
         return int(version);
-    const QVector<QStringRef> parts = QString::fromLatin1(qVersion()).splitRef(QLatin1Char('.'));
+    const QStringList parts = QString::fromLatin1(qVersion()).split(QLatin1Char('.'));
     for (int i = 0; i < 3; ++i) {
         version <<= 8;
         if (i < parts.size()) {
