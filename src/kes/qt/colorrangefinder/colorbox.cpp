@@ -23,7 +23,7 @@ bool isSane(const kes::core::IntVector& r)
 
 // One swatch: hue hMin + x across, saturation sMin + y down, at one value. The saturation
 // percentages go to the 0-to-255 HSV scale unscaled, and hues past 359 from a wrapping range are
-// left for QColor to take modulo 360, both as the swatches have always been drawn.
+// left for QColor::setHsv to take modulo 360, both as the swatches have always been drawn.
 QPixmap swatch(int hMin, int width, int sMin, int height, int value8)
 {
     if (width < 1 || height < 1)
@@ -32,8 +32,11 @@ QPixmap swatch(int hMin, int width, int sMin, int height, int value8)
     for (int y = 0; y < height; ++y) {
         const int s = std::min(sMin + y, 255);
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < width; ++x)
-            line[x] = QColor::fromHsv(hMin + x, s, value8, 255).rgb();
+        QColor color;
+        for (int x = 0; x < width; ++x) {
+            color.setHsv(hMin + x, s, value8, 255); // unlike fromHsv, takes hues past 359
+            line[x] = color.rgb();
+        }
     }
     return QPixmap::fromImage(image);
 }
