@@ -1,7 +1,9 @@
 #include <kes/cv/pixels.h>
 
 #include <opencv2/core.hpp>
+#include <opencv2/core/utility.hpp>
 
+#include <algorithm>
 #include <cstring>
 #include <exception>
 #include <vector>
@@ -182,6 +184,37 @@ bool hasAvx2()
     return avx2;
 }
 
+// Below this many bytes written, handing rows to other threads costs more than it saves.
+constexpr std::size_t parallelBytes = std::size_t(1) << 20;
+
+// Bands of rows on OpenCV's thread pool: one core alone cannot keep a frame of video size moving
+// at the speed of the memory. The application sets the number of threads with cv::setNumThreads.
+class Bands : public ::cv::ParallelLoopBody
+{
+public:
+    Bands(Kernel kernel, const std::uint8_t* src, std::size_t srcStep, std::uint8_t* dst, std::size_t dstStep,
+          int width, const LaneMasks& masks)
+        : m_kernel(kernel), m_src(src), m_srcStep(srcStep), m_dst(dst), m_dstStep(dstStep), m_width(width),
+          m_masks(masks)
+    {
+    }
+
+    void operator()(const ::cv::Range& rows) const override
+    {
+        m_kernel(m_src + std::size_t(rows.start) * m_srcStep, m_srcStep, m_dst + std::size_t(rows.start) * m_dstStep,
+                 m_dstStep, m_width, rows.end - rows.start, m_masks);
+    }
+
+private:
+    Kernel m_kernel;
+    const std::uint8_t* m_src;
+    std::size_t m_srcStep;
+    std::uint8_t* m_dst;
+    std::size_t m_dstStep;
+    int m_width;
+    LaneMasks m_masks;
+};
+
 #endif
 
 bool run(const std::uint8_t* src, std::size_t srcStep, std::uint8_t* dst, std::size_t dstStep, int width,
@@ -191,7 +224,20 @@ bool run(const std::uint8_t* src, std::size_t srcStep, std::uint8_t* dst, std::s
         return true;
 #ifdef KES_CV_PIXELS_X86
     if (hasAvx2()) {
-        avx2Kernel(m.srcChannels, m.dstChannels)(src, srcStep, dst, dstStep, width, height, laneMasks(m));
+        const Kernel kernel = avx2Kernel(m.srcChannels, m.dstChannels);
+        const LaneMasks masks = laneMasks(m);
+        const std::size_t bytes = std::size_t(width) * std::size_t(height) * std::size_t(m.dstChannels);
+        if (bytes >= parallelBytes && height > 1) {
+            try {
+                const int threads = std::max(::cv::getNumThreads(), 1);
+                ::cv::parallel_for_(::cv::Range(0, height), Bands(kernel, src, srcStep, dst, dstStep, width, masks),
+                                    double(threads));
+                return true;
+            } catch (const std::exception&) {
+                // Nothing is written twice wrongly: every band writes the same bytes again below.
+            }
+        }
+        kernel(src, srcStep, dst, dstStep, width, height, masks);
         return true;
     }
 #endif
