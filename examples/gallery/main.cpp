@@ -1,4 +1,5 @@
 #include "aboutpage.h"
+#include "camerapage.h"
 #include "curveeditorpage.h"
 #include "logpage.h"
 #include "mainwindow.h"
@@ -42,6 +43,7 @@ void addPages(MainWindow& window)
     window.addPage(new kes::gallery::LogPage(window));
     window.addPage(new kes::gallery::ScopePage);
     window.addPage(new kes::gallery::CurveEditorPage);
+    window.addPage(new kes::gallery::CameraPage);
 }
 
 // The log hub for the whole run; declared before the window, whose log panel shows it, so that it

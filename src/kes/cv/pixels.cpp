@@ -227,14 +227,15 @@ bool run(const std::uint8_t* src, std::size_t srcStep, std::uint8_t* dst, std::s
         const Kernel kernel = avx2Kernel(m.srcChannels, m.dstChannels);
         const LaneMasks masks = laneMasks(m);
         const std::size_t bytes = std::size_t(width) * std::size_t(height) * std::size_t(m.dstChannels);
-        if (bytes >= parallelBytes && height > 1) {
+        // In place, a band redone after a failure would be permuted twice; those stay on one thread.
+        if (bytes >= parallelBytes && height > 1 && src != dst) {
             try {
                 const int threads = std::max(::cv::getNumThreads(), 1);
                 ::cv::parallel_for_(::cv::Range(0, height), Bands(kernel, src, srcStep, dst, dstStep, width, masks),
                                     double(threads));
                 return true;
             } catch (const std::exception&) {
-                // Nothing is written twice wrongly: every band writes the same bytes again below.
+                // No thread to be had: the copy is done again, whole, on this one.
             }
         }
         kernel(src, srcStep, dst, dstStep, width, height, masks);
