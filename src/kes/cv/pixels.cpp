@@ -4,6 +4,7 @@
 #include <opencv2/core/utility.hpp>
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <vector>
@@ -178,9 +179,11 @@ Kernel avx2Kernel(int s, int d)
     }
 }
 
+// KES_CV_DISABLE_AVX2 set to anything non-empty takes the OpenCV path, as on processors without
+// AVX2, so that it can be tested and compared on any machine.
 bool hasAvx2()
 {
-    static const bool avx2 = __builtin_cpu_supports("avx2");
+    static const bool avx2 = __builtin_cpu_supports("avx2") && !std::getenv("KES_CV_DISABLE_AVX2");
     return avx2;
 }
 

@@ -7,8 +7,9 @@
 #include <cstdint>
 
 /// Row-wise primitives on 8-bit pixels of one to four channels, for a width-by-height region given
-/// by its first pixel and row stride in bytes. They run on vector instructions where the processor
-/// has them and on OpenCV otherwise.
+/// by its first pixel and row stride in bytes. They run on AVX2 where the processor has it (unless
+/// the environment variable KES_CV_DISABLE_AVX2 is set) and on OpenCV otherwise; large regions are
+/// shared out among OpenCV's threads.
 ///
 /// Each returns false and touches nothing when the arguments make no sense: a null pointer, a
 /// channel count outside 1 to 4, a channel index out of range, a negative size, or a stride

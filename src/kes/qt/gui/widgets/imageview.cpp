@@ -11,7 +11,7 @@
 #include <QRubberBand>
 
 #include <algorithm>
-#include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace kes::qt::gui::widgets {
