@@ -187,7 +187,6 @@ Image SyntheticCamera::frame(double t)
         for (int i = 0; i < picture.width() * 4; ++i, ++noise)
             row[i] = std::uint8_t(std::clamp(row[i] + *noise, 0, 255));
     }
-    ++m_frames;
     return kes::qt::convert(picture);
 }
 
@@ -214,8 +213,13 @@ CameraPage::CameraPage(QWidget* parent)
     layout->addWidget(m_finder, 1);
     // The orange ball, roughly, so that the segmentation has something to find from the start.
     m_finder->setRanges(20, 40, 70, 100, 40, 100);
-    if (auto* view = m_finder->findChild<kes::qt::gui::widgets::ImageView*>(QStringLiteral("imageView")))
-        view->setSegmentDrawingEnabled(true, -1);
+    // Segments bring their crosses; their outlines, one pixel wide in the camera's resolution, are
+    // drawn again as wide overlay lines, which stay visible when the view scales the frame down.
+    m_view = m_finder->findChild<kes::qt::gui::widgets::ImageView*>(QStringLiteral("imageView"));
+    if (m_view) {
+        m_view->setSegmentDrawingEnabled(true, -1);
+        m_view->setOverlayDrawingEnabled(true);
+    }
 
     m_timer = new QTimer(this);
     m_timer->setInterval(1000 / 30);
@@ -271,8 +275,24 @@ void CameraPage::nextFrame()
     Image frame = m_camera->frame(seconds + 2.0);
     Image result;
     const SegmentList segments = segment(frame, m_finder->ranges(), result);
-    kes::core::image::setSegmentList(frame, segments);
-    kes::core::image::setSegmentList(result, segments);
+    kes::core::Vector<kes::core::Line> outlines;
+    const Segment* largest = nullptr;
+    for (const Segment& s : segments) {
+        for (const kes::core::Line& l : s.lines)
+            outlines.append(l);
+        if (!largest || s.count > largest->count)
+            largest = &s;
+    }
+    for (Image* image : {&frame, &result}) {
+        kes::core::image::setSegmentList(*image, segments);
+        kes::core::image::setLines(*image, outlines);
+    }
+    // The largest blob gets the bold cross; the view rebuilds on the call, so only on a change.
+    const int highlighted = largest ? largest->id : -1;
+    if (m_view && highlighted != m_highlighted) {
+        m_highlighted = highlighted;
+        m_view->setHighlightedSegment(highlighted);
+    }
     m_segments = int(segments.size());
     m_finder->setImage(frame);
     m_finder->setResultImage(result);

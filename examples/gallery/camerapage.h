@@ -17,6 +17,9 @@ class QTimer;
 namespace kes::qt::colorrangefinder {
 class Dialog;
 }
+namespace kes::qt::gui::widgets {
+class ImageView;
+}
 
 namespace kes::gallery {
 
@@ -32,7 +35,6 @@ public:
 private:
     QImage m_background;
     std::vector<int> m_noise; ///< more than one frame's worth, read from a random offset
-    quint32 m_frames = 0;
 };
 
 /// The colour range finder on a live camera at 30 frames per second. The page segments every
@@ -61,6 +63,8 @@ private:
     void showStatus();
 
     kes::qt::colorrangefinder::Dialog* m_finder = nullptr;
+    kes::qt::gui::widgets::ImageView* m_view = nullptr; ///< the finder's
+    int m_highlighted = -1;
     QLabel* m_heading = nullptr;
     QLabel* m_description = nullptr;
     QLabel* m_status = nullptr;
