@@ -2,11 +2,13 @@
 
 #include <opencv2/core.hpp>
 #include <opencv2/core/utility.hpp>
+#include <opencv2/imgproc.hpp>
 
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <exception>
+#include <initializer_list>
 #include <vector>
 
 #if defined(__x86_64__) || defined(__i386__)
@@ -61,23 +63,53 @@ bool validChannels(int channels)
     return channels >= 1 && channels <= 4;
 }
 
-// OpenCV's channel mixer, for processors without the vector path. In place, the source is copied
-// first, since mixChannels reads and writes pixel by pixel.
+bool isMapping(const Mapping& m, int s, int d, std::initializer_list<int> order)
+{
+    return m.srcChannels == s && m.dstChannels == d && std::equal(order.begin(), order.end(), m.order);
+}
+
+// The mappings the image conversions use, as OpenCV's own optimised colour conversions; -1 for the
+// others. They fill with 255 only.
+int colorConversionCode(const Mapping& m)
+{
+    const bool opaque = m.fill == 255;
+    if (opaque && isMapping(m, 3, 4, {0, 1, 2, -1}))
+        return ::cv::COLOR_BGR2BGRA;
+    if (opaque && isMapping(m, 3, 4, {2, 1, 0, -1}))
+        return ::cv::COLOR_RGB2BGRA;
+    if (opaque && isMapping(m, 1, 4, {0, 0, 0, -1}))
+        return ::cv::COLOR_GRAY2BGRA;
+    if (isMapping(m, 4, 3, {0, 1, 2}))
+        return ::cv::COLOR_BGRA2BGR;
+    return -1;
+}
+
+// OpenCV, for processors without the vector path: its colour conversions where they fit, its
+// channel mixer otherwise. In place, the source is copied first, since the mixer reads and writes
+// pixel by pixel.
 bool runOpenCv(const std::uint8_t* src, std::size_t srcStep, std::uint8_t* dst, std::size_t dstStep,
                int width, int height, const Mapping& m)
 {
     try {
         const ::cv::Mat in(height, width, CV_8UC(m.srcChannels), const_cast<std::uint8_t*>(src), srcStep);
         ::cv::Mat out(height, width, CV_8UC(m.dstChannels), dst, dstStep);
-        std::vector<::cv::Mat> inputs{src == dst ? in.clone() : in};
-        std::vector<int> pairs;
-        for (int i = 0; i < m.dstChannels; ++i) {
-            if (m.order[i] < 0 && inputs.size() == 1)
-                inputs.emplace_back(height, width, CV_8UC1, ::cv::Scalar::all(m.fill));
-            pairs.push_back(m.order[i] < 0 ? m.srcChannels : m.order[i]);
-            pairs.push_back(i);
+        const int code = src == dst ? -1 : colorConversionCode(m);
+        if (code >= 0) {
+            ::cv::cvtColor(in, out, code);
+        } else if (m.fill == 255 && isMapping(m, 4, 4, {0, 1, 2, -1})) {
+            ::cv::bitwise_or(in, ::cv::Scalar(0, 0, 0, 255), out); // the pad byte made opaque
+        } else {
+            std::vector<::cv::Mat> inputs{src == dst ? in.clone() : in};
+            std::vector<int> pairs;
+            for (int i = 0; i < m.dstChannels; ++i) {
+                if (m.order[i] < 0 && inputs.size() == 1)
+                    inputs.emplace_back(height, width, CV_8UC1, ::cv::Scalar::all(m.fill));
+                pairs.push_back(m.order[i] < 0 ? m.srcChannels : m.order[i]);
+                pairs.push_back(i);
+            }
+            ::cv::mixChannels(inputs.data(), inputs.size(), &out, 1, pairs.data(), pairs.size() / 2);
         }
-        ::cv::mixChannels(inputs.data(), inputs.size(), &out, 1, pairs.data(), pairs.size() / 2);
+        // OpenCV reallocates a destination it does not like; the pixels would then not be ours.
         return out.data == dst;
     } catch (const std::exception&) {
         return false;
