@@ -46,13 +46,16 @@ void SummaryReporter::ReportRuns(const std::vector<Run>& runs)
             continue;
         const double ns = run.GetAdjustedCPUTime()
                           / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
+        const double realNs = run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
         const std::string& name = run.run_name.function_name;
         if (run.run_type == Run::RT_Iteration) {
             m_runs[name].push_back(ns);
+            m_realRuns[name].push_back(realNs);
             for (const auto& c : run.counters)
                 m_counterRuns[name][c.first].push_back(c.second.value);
         } else if (run.aggregate_name == "median") {
             m_medians[name] = ns;
+            m_realMedians[name] = realNs;
             for (const auto& c : run.counters)
                 m_counterMedians[name][c.first] = c.second.value;
         }
@@ -66,6 +69,15 @@ double SummaryReporter::nanoseconds(const std::string& name) const
         return median->second;
     const auto runs = m_runs.find(name);
     return runs == m_runs.end() ? -1.0 : meanOf(runs->second);
+}
+
+double SummaryReporter::realNanoseconds(const std::string& name) const
+{
+    const auto median = m_realMedians.find(name);
+    if (median != m_realMedians.end())
+        return median->second;
+    const auto runs = m_realRuns.find(name);
+    return runs == m_realRuns.end() ? -1.0 : meanOf(runs->second);
 }
 
 double SummaryReporter::counter(const std::string& name, const std::string& counterName) const

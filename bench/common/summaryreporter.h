@@ -21,12 +21,17 @@ public:
     /// else the mean of the runs; < 0 if the benchmark did not run.
     double nanoseconds(const std::string& name) const;
 
+    /// Wall-clock time per iteration in nanoseconds, chosen like nanoseconds().
+    double realNanoseconds(const std::string& name) const;
+
     /// A user counter of the benchmark (median over repetitions, else the mean); < 0 if absent.
     double counter(const std::string& name, const std::string& counterName) const;
 
 private:
     std::map<std::string, std::vector<double>> m_runs;
     std::map<std::string, double> m_medians;
+    std::map<std::string, std::vector<double>> m_realRuns;
+    std::map<std::string, double> m_realMedians;
     std::map<std::string, std::map<std::string, std::vector<double>>> m_counterRuns;
     std::map<std::string, std::map<std::string, double>> m_counterMedians;
 };

@@ -1,4 +1,5 @@
 #include "aboutpage.h"
+#include "camerapage.h"
 #include "curveeditorpage.h"
 #include "inputwidgetspage.h"
 #include "logpage.h"
@@ -45,6 +46,7 @@ void addPages(MainWindow& window)
     window.addPage(new kes::gallery::LogPage(window));
     window.addPage(new kes::gallery::ScopePage);
     window.addPage(new kes::gallery::CurveEditorPage);
+    window.addPage(new kes::gallery::CameraPage);
     window.addPage(new kes::gallery::InputWidgetsPage);
 }
 

@@ -70,6 +70,25 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::CameraPage</name>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Colour ranges from a live camera</source>
+        <translation>Farbbereiche aus einer laufenden Kamera</translation>
+    </message>
+    <message>
+        <source>A synthetic camera delivers 30 frames a second: four coloured balls over a cloth, with sensor noise. Drag a rectangle over a ball to measure its hue, saturation and value ranges; the page then finds every blob within them and marks it. &quot;Show result&quot; shows the page&apos;s segmentation, &quot;Freeze image&quot; holds the picture, and the buttons copy the ranges to the clipboard and paste them back.</source>
+        <translation>Eine synthetische Kamera liefert 30 Bilder pro Sekunde: vier farbige Kugeln auf einem Tuch, mit Sensorrauschen. Ziehen Sie ein Rechteck über eine Kugel, um ihre Farbton-, Sättigungs- und Helligkeitsbereiche zu messen; die Seite findet dann jeden Fleck innerhalb dieser Bereiche und markiert ihn. &quot;Ergebnis zeigen&quot; zeigt die Segmentierung der Seite, &quot;Bild einfrieren&quot; hält das Bild an, und die Schaltflächen kopieren die Bereiche in die Zwischenablage und fügen sie wieder ein.</translation>
+    </message>
+    <message>
+        <source>Ranges: %1    Blobs found: %2</source>
+        <translation>Bereiche: %1    Gefundene Flecken: %2</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::CurveEdit</name>
     <message>
         <source>Move point %1</source>

@@ -70,6 +70,25 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::CameraPage</name>
+    <message>
+        <source>Camera</source>
+        <translation>Cámara</translation>
+    </message>
+    <message>
+        <source>Colour ranges from a live camera</source>
+        <translation>Rangos de color de una cámara en directo</translation>
+    </message>
+    <message>
+        <source>A synthetic camera delivers 30 frames a second: four coloured balls over a cloth, with sensor noise. Drag a rectangle over a ball to measure its hue, saturation and value ranges; the page then finds every blob within them and marks it. &quot;Show result&quot; shows the page&apos;s segmentation, &quot;Freeze image&quot; holds the picture, and the buttons copy the ranges to the clipboard and paste them back.</source>
+        <translation>Una cámara sintética entrega 30 imágenes por segundo: cuatro bolas de colores sobre una tela, con ruido de sensor. Arrastre un rectángulo sobre una bola para medir sus rangos de tono, saturación y valor; la página encuentra entonces cada mancha dentro de ellos y la marca. &quot;Mostrar resultado&quot; muestra la segmentación de la página, &quot;Congelar imagen&quot; detiene la imagen y los botones copian los rangos al portapapeles y los pegan de nuevo.</translation>
+    </message>
+    <message>
+        <source>Ranges: %1    Blobs found: %2</source>
+        <translation>Rangos: %1    Manchas encontradas: %2</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::CurveEdit</name>
     <message>
         <source>Move point %1</source>

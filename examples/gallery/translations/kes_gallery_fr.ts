@@ -70,6 +70,25 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::CameraPage</name>
+    <message>
+        <source>Camera</source>
+        <translation>Caméra</translation>
+    </message>
+    <message>
+        <source>Colour ranges from a live camera</source>
+        <translation>Plages de couleur d&apos;une caméra en direct</translation>
+    </message>
+    <message>
+        <source>A synthetic camera delivers 30 frames a second: four coloured balls over a cloth, with sensor noise. Drag a rectangle over a ball to measure its hue, saturation and value ranges; the page then finds every blob within them and marks it. &quot;Show result&quot; shows the page&apos;s segmentation, &quot;Freeze image&quot; holds the picture, and the buttons copy the ranges to the clipboard and paste them back.</source>
+        <translation>Une caméra synthétique fournit 30 images par seconde : quatre boules colorées sur un tissu, avec du bruit de capteur. Tracez un rectangle sur une boule pour mesurer ses plages de teinte, de saturation et de luminosité ; la page trouve alors chaque tache dans ces plages et la marque. &quot;Afficher le résultat&quot; montre la segmentation de la page, &quot;Figer l&apos;image&quot; arrête l&apos;image, et les boutons copient les plages dans le presse-papiers et les recollent.</translation>
+    </message>
+    <message>
+        <source>Ranges: %1    Blobs found: %2</source>
+        <translation>Plages : %1    Taches trouvées : %2</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::CurveEdit</name>
     <message>
         <source>Move point %1</source>

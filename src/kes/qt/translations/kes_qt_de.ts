@@ -16,6 +16,40 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::colorrangefinder::Dialog</name>
+    <message>
+        <source>Show result</source>
+        <translation>Ergebnis zeigen</translation>
+    </message>
+    <message>
+        <source>Freeze image</source>
+        <translation>Bild einfrieren</translation>
+    </message>
+    <message>
+        <source>Copy values to clipboard</source>
+        <translation>Werte in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Paste values from clipboard</source>
+        <translation>Werte aus der Zwischenablage einfügen</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::colorrangefinder::SpinBoxGroup</name>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Helligkeit</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::discreteapproximator::ContextMenu</name>
     <message>
         <source>Insert point before</source>

@@ -16,6 +16,40 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::colorrangefinder::Dialog</name>
+    <message>
+        <source>Show result</source>
+        <translation>Mostrar resultado</translation>
+    </message>
+    <message>
+        <source>Freeze image</source>
+        <translation>Congelar imagen</translation>
+    </message>
+    <message>
+        <source>Copy values to clipboard</source>
+        <translation>Copiar valores al portapapeles</translation>
+    </message>
+    <message>
+        <source>Paste values from clipboard</source>
+        <translation>Pegar valores del portapapeles</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::colorrangefinder::SpinBoxGroup</name>
+    <message>
+        <source>Hue</source>
+        <translation>Tono</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::discreteapproximator::ContextMenu</name>
     <message>
         <source>Insert point before</source>

@@ -16,6 +16,40 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::colorrangefinder::Dialog</name>
+    <message>
+        <source>Show result</source>
+        <translation>Afficher le résultat</translation>
+    </message>
+    <message>
+        <source>Freeze image</source>
+        <translation>Figer l&apos;image</translation>
+    </message>
+    <message>
+        <source>Copy values to clipboard</source>
+        <translation>Copier les valeurs dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Paste values from clipboard</source>
+        <translation>Coller les valeurs depuis le presse-papiers</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::colorrangefinder::SpinBoxGroup</name>
+    <message>
+        <source>Hue</source>
+        <translation>Teinte</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Luminosité</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::discreteapproximator::ContextMenu</name>
     <message>
         <source>Insert point before</source>
