@@ -13,6 +13,7 @@
 #include <QPainterPath>
 #include <QRadialGradient>
 #include <QRandomGenerator>
+#include <QScrollArea>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -210,7 +211,13 @@ CameraPage::CameraPage(QWidget* parent)
 
     m_finder = new kes::qt::colorrangefinder::Dialog(this);
     m_finder->setObjectName(QStringLiteral("finder"));
-    layout->addWidget(m_finder, 1);
+    // The range finder's six boxes stand in one row; in a narrow window it scrolls sideways.
+    auto* finderArea = new QScrollArea(this);
+    finderArea->setFrameShape(QFrame::NoFrame);
+    finderArea->setWidgetResizable(true);
+    finderArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    finderArea->setWidget(m_finder);
+    layout->addWidget(finderArea, 1);
     // The orange ball, roughly, so that the segmentation has something to find from the start.
     m_finder->setRanges(20, 40, 70, 100, 40, 100);
     // Segments bring their crosses; their outlines, one pixel wide in the camera's resolution, are
