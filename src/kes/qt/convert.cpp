@@ -88,7 +88,9 @@ Image convert(const QImage& image)
     const QImage rgb = image.format() == QImage::Format_RGB32 ? image : image.convertToFormat(QImage::Format_RGB32);
     if (rgb.isNull())
         return Image();
-    Image result(ImageInfo(rgb.width(), rgb.height(), 3, 1, kes::core::image::Bgr));
+    // Every row is written below, padding aside, which nothing reads.
+    Image result(ImageInfo(rgb.width(), rgb.height(), 3, 1, kes::core::image::Bgr),
+                 Image::Uninitialized{});
     if (!kes::cv::pixels::copy(rgb.constBits(), std::size_t(rgb.bytesPerLine()), 4, result.data(), result.step(), 3,
                                rgb.width(), rgb.height()))
         return Image();

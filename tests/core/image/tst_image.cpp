@@ -60,6 +60,16 @@ private slots:
         QVERIFY(image.info() == info);
         const std::uint8_t* bytes = image.constData();
         QVERIFY(std::all_of(bytes, bytes + image.step() * std::size_t(info.height), [](int b) { return b == 0; }));
+
+        // Left unset, only the pixels are: same layout, padding zeroed.
+        const Image unset(info, Image::Uninitialized{});
+        QCOMPARE(unset.step(), image.step());
+        QVERIFY(unset.info() == info);
+        const std::size_t row = std::size_t(info.width) * info.numChannels * info.bytesPerChannel;
+        for (int y = 0; y < info.height; ++y) {
+            const std::uint8_t* end = unset.constData() + std::size_t(y + 1) * unset.step();
+            QVERIFY(std::all_of(end - (unset.step() - row), end, [](int b) { return b == 0; }));
+        }
     }
 
     void regionIsClampedToImage_data()

@@ -19,6 +19,13 @@ std::size_t bytesPerPixel(const ImageInfo& info)
 Image::Image() = default;
 
 Image::Image(const ImageInfo& info)
+    : Image(info, Uninitialized{})
+{
+    if (m_storage)
+        std::fill_n(m_storage.get(), m_step * std::size_t(m_info.height), std::uint8_t(0));
+}
+
+Image::Image(const ImageInfo& info, Uninitialized)
 {
     const std::size_t pixel = bytesPerPixel(info);
     if (info.width <= 0 || info.height <= 0 || pixel == 0)
@@ -27,8 +34,14 @@ Image::Image(const ImageInfo& info)
     // Word-aligned rows, as most capture drivers deliver them; it also keeps every consumer honest
     // about using step() rather than width times pixel size.
     m_step = (rowBytes + 3) / 4 * 4;
-    m_storage.reset(new std::uint8_t[m_step * std::size_t(info.height)]());
+    m_storage.reset(new std::uint8_t[m_step * std::size_t(info.height)]);
     m_base = m_data = m_storage.get();
+    // The padding is nobody's to write, so it is zeroed here: whole-buffer copies and comparisons
+    // then see defined bytes.
+    if (m_step != rowBytes) {
+        for (int y = 0; y < info.height; ++y)
+            std::memset(m_data + std::size_t(y) * m_step + rowBytes, 0, m_step - rowBytes);
+    }
     m_fullInfo = m_info = info;
 }
 

@@ -29,6 +29,13 @@ public:
     /// are padded whenever a row is not a multiple of 4 bytes. Gives a null image when the width,
     /// height, channel count or bytes per channel is not positive.
     explicit Image(const ImageInfo& info);
+    /// Tag for the constructor below.
+    struct Uninitialized
+    {
+    };
+    /// Allocates like Image(info) but leaves the pixels as they come, for a caller that writes
+    /// every row at once: zero-filling a frame costs as much as a third of copying it.
+    Image(const ImageInfo& info, Uninitialized);
     /// Wraps memory owned by the caller, who keeps it alive as long as any copy of this image.
     /// Nothing is checked here: consumers that read pixels validate the layout themselves.
     Image(const ImageInfo& info, void* data, std::size_t step);
