@@ -36,9 +36,10 @@ function(kes_add_library target export_name dir)
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    # Private headers ("_p.h") serve the library's own sources only.
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/kes/${dir}/
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kes/${dir}
-        FILES_MATCHING PATTERN "*.h")
+        FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE)
     install(DIRECTORY ${KES_GENERATED_INCLUDE_DIR}/kes/${dir}/
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kes/${dir}
         FILES_MATCHING PATTERN "*.h")

@@ -2,14 +2,16 @@
 
 #include <kes/core/variant/variant.h>
 
-#include <QFocusEvent>
-#include <QKeyEvent>
+#include "edittracking_p.h"
+
 #include <QLineEdit>
 
 #include <cfloat>
 #include <cmath>
 
 namespace kes::qt::gui::widgets {
+
+using Tracking = EditTracking<DoubleSpinBox, QDoubleSpinBox, double>;
 
 struct DoubleSpinBoxPrivate
 {
@@ -83,21 +85,21 @@ void DoubleSpinBox::setMinimum(double minimum)
 {
     const double before = value();
     QDoubleSpinBox::setMinimum(minimum);
-    normalAfterBoundChange(before);
+    Tracking::normalAfterBoundChange(this, before);
 }
 
 void DoubleSpinBox::setMaximum(double maximum)
 {
     const double before = value();
     QDoubleSpinBox::setMaximum(maximum);
-    normalAfterBoundChange(before);
+    Tracking::normalAfterBoundChange(this, before);
 }
 
 void DoubleSpinBox::setRange(double minimum, double maximum)
 {
     const double before = value();
     QDoubleSpinBox::setRange(minimum, maximum);
-    normalAfterBoundChange(before);
+    Tracking::normalAfterBoundChange(this, before);
 }
 
 void DoubleSpinBox::useMaximumRange()
@@ -105,26 +107,9 @@ void DoubleSpinBox::useMaximumRange()
     setRange(-DBL_MAX, DBL_MAX);
 }
 
-void DoubleSpinBox::normalAfterBoundChange(double before)
-{
-    if (value() != before && displayStyleTracking())
-        setDisplayStyle(Normal);
-}
-
 void DoubleSpinBox::on_valueChanged(double value)
 {
-    if (displayStyleTracking()) {
-        const DisplayStyle before = displayStyle();
-        setDisplayStyle(Normal);
-        Q_EMIT valueChanged(value, userData());
-        // A change that ends typing is finished by Return or focus loss, which follow.
-        if (before != Normal)
-            return;
-    } else {
-        Q_EMIT valueChanged(value, userData());
-    }
-    // A step, a wheel turn or a program's change: nothing was being typed, so it is final.
-    Q_EMIT QAbstractSpinBox::editingFinished();
+    Tracking::valueChanged(this, value);
 }
 
 void DoubleSpinBox::on_valueChanged(const QString& text)
@@ -134,70 +119,22 @@ void DoubleSpinBox::on_valueChanged(const QString& text)
 
 void DoubleSpinBox::on_editingFinished()
 {
-    d->committed = value();
-    if (displayStyleTracking())
-        setDisplayStyle(Normal);
-    Q_EMIT editingFinished(userData());
+    Tracking::editingFinished(this);
 }
 
 void DoubleSpinBox::on_lineEdit_textChanged(const QString&)
 {
-    if (displayStyleTracking())
-        setDisplayStyle(Editing);
-}
-
-bool DoubleSpinBox::displayedValue(double* value) const
-{
-    QString text = lineEdit()->displayText();
-    int pos = lineEdit()->cursorPosition();
-    if (validate(text, pos) != QValidator::Acceptable)
-        return false;
-    *value = valueFromText(text);
-    return true;
+    Tracking::textEdited(this);
 }
 
 void DoubleSpinBox::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape) {
-        setValue(d->committed);
-        selectAll();
-        if (displayStyleTracking())
-            setDisplayStyle(Normal);
-    } else if (event->key() == Qt::Key_Return) {
-        double shown = 0.0;
-        if (displayedValue(&shown) && shown == d->committed) {
-            selectAll();
-            if (displayStyleTracking())
-                setDisplayStyle(Normal);
-            event->accept();
-            return;
-        }
-    }
-    QDoubleSpinBox::keyPressEvent(event);
+    Tracking::keyPress(this, event);
 }
 
 void DoubleSpinBox::focusOutEvent(QFocusEvent* event)
 {
-    const bool blocked = signalsBlocked();
-    double shown = 0.0;
-    const bool number = displayedValue(&shown);
-    if (number && shown == d->committed) {
-        selectAll();
-        if (displayStyleTracking())
-            setDisplayStyle(Normal);
-        // Nothing changed, so the base's editingFinished() would only be noise.
-        blockSignals(true);
-        QDoubleSpinBox::focusOutEvent(event);
-    } else {
-        if (number)
-            setValue(shown);
-        else if (displayStyleTracking())
-            setDisplayStyle(Normal); // the base puts the committed text back
-        blockSignals(false);
-        QDoubleSpinBox::focusOutEvent(event);
-    }
-    blockSignals(blocked);
-    Q_EMIT lostFocus();
+    Tracking::focusOut(this, event);
 }
 
 } // namespace kes::qt::gui::widgets

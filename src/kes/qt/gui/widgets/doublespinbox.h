@@ -64,10 +64,10 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    template <typename Box, typename Base, typename T>
+    friend struct EditTracking;
+
     void init();
-    /// The line edit's text as a number, when it is one the box accepts.
-    bool displayedValue(double* value) const;
-    void normalAfterBoundChange(double before);
 
     std::unique_ptr<DoubleSpinBoxPrivate> d;
 };

@@ -1,13 +1,15 @@
 #include <kes/qt/gui/widgets/spinbox.h>
 
-#include <QFocusEvent>
-#include <QKeyEvent>
+#include "edittracking_p.h"
+
 #include <QLineEdit>
 
 #include <climits>
 #include <cmath>
 
 namespace kes::qt::gui::widgets {
+
+using Tracking = EditTracking<SpinBox, QSpinBox, int>;
 
 struct SpinBoxPrivate
 {
@@ -87,7 +89,7 @@ void SpinBox::setMinimum(double minimum)
         return;
     const int before = value();
     QSpinBox::setMinimum(saturatedInt(minimum));
-    normalAfterBoundChange(before);
+    Tracking::normalAfterBoundChange(this, before);
 }
 
 void SpinBox::setMaximum(double maximum)
@@ -96,36 +98,19 @@ void SpinBox::setMaximum(double maximum)
         return;
     const int before = value();
     QSpinBox::setMaximum(saturatedInt(maximum));
-    normalAfterBoundChange(before);
+    Tracking::normalAfterBoundChange(this, before);
 }
 
 void SpinBox::setRange(int minimum, int maximum)
 {
     const int before = value();
     QSpinBox::setRange(minimum, maximum);
-    normalAfterBoundChange(before);
-}
-
-void SpinBox::normalAfterBoundChange(int before)
-{
-    if (value() != before && displayStyleTracking())
-        setDisplayStyle(Normal);
+    Tracking::normalAfterBoundChange(this, before);
 }
 
 void SpinBox::on_valueChanged(int value)
 {
-    if (displayStyleTracking()) {
-        const DisplayStyle before = displayStyle();
-        setDisplayStyle(Normal);
-        Q_EMIT valueChanged(value, userData());
-        // A change that ends typing is finished by Return or focus loss, which follow.
-        if (before != Normal)
-            return;
-    } else {
-        Q_EMIT valueChanged(value, userData());
-    }
-    // A step, a wheel turn or a program's change: nothing was being typed, so it is final.
-    Q_EMIT QAbstractSpinBox::editingFinished();
+    Tracking::valueChanged(this, value);
 }
 
 void SpinBox::on_valueChanged(const QString& text)
@@ -135,70 +120,22 @@ void SpinBox::on_valueChanged(const QString& text)
 
 void SpinBox::on_editingFinished()
 {
-    d->committed = value();
-    if (displayStyleTracking())
-        setDisplayStyle(Normal);
-    Q_EMIT editingFinished(userData());
+    Tracking::editingFinished(this);
 }
 
 void SpinBox::on_lineEdit_textChanged(const QString&)
 {
-    if (displayStyleTracking())
-        setDisplayStyle(Editing);
-}
-
-bool SpinBox::displayedValue(int* value) const
-{
-    QString text = lineEdit()->displayText();
-    int pos = lineEdit()->cursorPosition();
-    if (validate(text, pos) != QValidator::Acceptable)
-        return false;
-    *value = valueFromText(text);
-    return true;
+    Tracking::textEdited(this);
 }
 
 void SpinBox::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape) {
-        setValue(d->committed);
-        selectAll();
-        if (displayStyleTracking())
-            setDisplayStyle(Normal);
-    } else if (event->key() == Qt::Key_Return) {
-        int shown = 0;
-        if (displayedValue(&shown) && shown == d->committed) {
-            selectAll();
-            if (displayStyleTracking())
-                setDisplayStyle(Normal);
-            event->accept();
-            return;
-        }
-    }
-    QSpinBox::keyPressEvent(event);
+    Tracking::keyPress(this, event);
 }
 
 void SpinBox::focusOutEvent(QFocusEvent* event)
 {
-    const bool blocked = signalsBlocked();
-    int shown = 0;
-    const bool number = displayedValue(&shown);
-    if (number && shown == d->committed) {
-        selectAll();
-        if (displayStyleTracking())
-            setDisplayStyle(Normal);
-        // Nothing changed, so the base's editingFinished() would only be noise.
-        blockSignals(true);
-        QSpinBox::focusOutEvent(event);
-    } else {
-        if (number)
-            setValue(shown);
-        else if (displayStyleTracking())
-            setDisplayStyle(Normal); // the base puts the committed text back
-        blockSignals(false);
-        QSpinBox::focusOutEvent(event);
-    }
-    blockSignals(blocked);
-    Q_EMIT lostFocus();
+    Tracking::focusOut(this, event);
 }
 
 } // namespace kes::qt::gui::widgets

@@ -62,10 +62,10 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    template <typename Box, typename Base, typename T>
+    friend struct EditTracking;
+
     void init();
-    /// The line edit's text as a number, when it is one the box accepts.
-    bool displayedValue(int* value) const;
-    void normalAfterBoundChange(int before);
 
     std::unique_ptr<SpinBoxPrivate> d;
 };
