@@ -2,13 +2,14 @@
 
 #include <kes/qt/scope/channelmenu.h>
 
+#include "curverasteriser_p.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QBrush>
 #include <QButtonGroup>
 #include <QClipboard>
 #include <QFont>
-#include <QLineF>
 #include <QLocale>
 #include <QMenu>
 #include <QMouseEvent>
@@ -62,116 +63,6 @@ private:
     int m_top;
     int m_bottom;
 };
-
-// The segments of one curve for a single drawLines call, with each run of samples within one pixel
-// column merged into a one pixel wide rectangle. Line rasterising dominates the refresh, and a
-// column often holds many samples: the segments between them light that column from their lowest
-// to their highest row, exactly the pixels of the rectangle, which the raster engine fills far
-// faster. Whether a segment stays inside its column follows the raster engine's aliased line
-// rules (26.6 fixed-point ends, the half-pixel extension of square caps, single points rounded to
-// the nearest pixel), with a margin; every other segment is kept as it is, so the picture is the
-// same as drawing every segment. Translucent colours blend where segments overlap, so for them
-// nothing is merged.
-constexpr int noColumn = std::numeric_limits<int>::min();
-constexpr double columnMargin = 2.0 / 64.0;
-
-// Only a guess: inColumn() decides, with margins on both sides of the column.
-int columnOf(double x)
-{
-    if (!(std::abs(x) < 1e6))
-        return noColumn;
-    const int truncated = int(x);
-    return truncated - int(x < truncated);
-}
-
-// Whether the segment a-b, both ends in \a column, lights pixels of that column only, every row
-// from a's to b's. Computed without branches: on noisy data they would be guessed wrong.
-bool inColumn(const QPointF& a, const QPointF& b, int column)
-{
-    const double dx = std::abs(b.x() - a.x());
-    const double dy = std::abs(b.y() - a.y());
-    const double left = std::min(a.x(), b.x()) - column - columnMargin;
-    const double right = column + 1 - columnMargin - std::max(a.x(), b.x());
-    // A steep segment reaches half a row beyond its ends, and its x moves with it.
-    const bool steep = (dy >= 1.0) & (2.0 * dy * left >= dx) & (2.0 * dy * right > dx);
-    // A single point goes to the nearest pixel, but a segment shorter than 1/64 pixel may end in
-    // the same 26.6 fixed-point x as it starts and then lights nothing: left to the line drawing.
-    const bool flat = (dy == 0.0) & (left >= 0.0) & (right > 0.5 * double(dx == 0.0))
-                      & ((dx == 0.0) | (dx >= 1.0 / 64.0));
-    return steep | flat;
-}
-
-// How much of the line and column buffers one trace() used.
-struct Trace
-{
-    int lines = 0;
-    int columns = 0;
-};
-
-// Traces the polyline through \a count points. State is kept in locals: members would be reloaded
-// after every store into the vectors. The buffers only ever grow and are written through raw
-// pointers, as QVector::append() checks sharing and capacity on every call of this hot loop.
-Trace trace(const QPointF* points, int count, bool merge, QVector<QLineF>& lines,
-            QVector<QRect>& columns)
-{
-    if (count <= 0)
-        return Trace();
-    if (lines.size() < count - 1)
-        lines.resize(count - 1);
-    if (columns.size() < count / 2)
-        columns.resize(count / 2);
-    QLineF* line = lines.data();
-    QRect* rect = columns.data();
-    int column = noColumn;
-    double top = 0.0;
-    double bottom = 0.0;
-    int run = 0;
-    auto startRun = [&](const QPointF& point) {
-        column = merge ? columnOf(point.x()) : noColumn;
-        top = bottom = point.y();
-        run = 1;
-    };
-    // A run holds at least two points, so there are never more runs than half the points.
-    auto endRun = [&] {
-        if (run > 1)
-            *rect++ = QRect(column, int(top), 1, int(bottom - top) + 1);
-    };
-    startRun(points[0]);
-    for (int i = 1; i < count; ++i) {
-        const QPointF& last = points[i - 1];
-        const QPointF& point = points[i];
-        // inColumn() also tells whether the point is in the run's column at all.
-        if (inColumn(last, point, column)) {
-            top = std::min(top, point.y());
-            bottom = std::max(bottom, point.y());
-            ++run;
-            continue;
-        }
-        endRun();
-        *line++ = QLineF(last, point);
-        startRun(point);
-    }
-    endRun();
-    Trace used;
-    used.lines = int(line - lines.constData());
-    used.columns = int(rect - columns.constData());
-    return used;
-}
-
-void drawCurve(QPainter* painter, const QVector<QLineF>& lines, const QVector<QRect>& columns,
-               const Trace& used)
-{
-    painter->drawLines(lines.constData(), used.lines);
-    if (used.columns == 0)
-        return;
-    const QPen pen = painter->pen();
-    const QBrush brush = painter->brush();
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(pen.color());
-    painter->drawRects(columns.constData(), used.columns);
-    painter->setPen(pen);
-    painter->setBrush(brush);
-}
 
 } // namespace
 
@@ -403,23 +294,26 @@ void View::drawGrid(QPainter* painter)
 {
     if (!painter)
         return;
-    const QPen dark(palette().brush(QPalette::Dark), 1.0, Qt::SolidLine);
-    const QPen light(palette().brush(QPalette::Light), 1.0, Qt::SolidLine);
-    Q_UNUSED(light)
-    painter->setPen(dark);
+    // One-pixel lines drawn as rectangles of the same pixels: on CPUs with Qt's slow AVX2 span
+    // functions the twenty lines of the grid alone cost a few milliseconds.
+    const QBrush dark = palette().brush(QPalette::Dark);
     const int left = m_plotRect.left();
     const int right = m_plotRect.right();
     const int top = m_plotRect.top();
     const int bottom = m_plotRect.bottom();
-    for (int k = 1; k <= 9; ++k) {
-        const int x = left + k * (right - left + 1) / 10;
-        painter->drawLine(x, top, x, bottom);
-    }
-    for (int k = 1; k <= 9; ++k) {
-        const int y = bottom - k * (bottom - top + 1) / 10;
-        painter->drawLine(left, y, right, y);
-    }
-    painter->drawRect(m_plotRect);
+    const int width = right - left + 1;
+    const int height = bottom - top + 1;
+    for (int k = 1; k <= 9; ++k)
+        painter->fillRect(QRect(left + k * width / 10, top, 1, height), dark);
+    for (int k = 1; k <= 9; ++k)
+        painter->fillRect(QRect(left, bottom - k * height / 10, width, 1), dark);
+    // The frame as a one-pixel pen outlines it: through right + 1 and bottom + 1.
+    painter->fillRect(QRect(left, top, width + 1, 1), dark);
+    painter->fillRect(QRect(left, bottom + 1, width + 1, 1), dark);
+    painter->fillRect(QRect(left, top, 1, height + 1), dark);
+    painter->fillRect(QRect(right + 1, top, 1, height + 1), dark);
+    // The marker outlines use the grid's pen.
+    painter->setPen(QPen(dark, 1.0, Qt::SolidLine));
 }
 
 void View::drawArrows(QPainter* painter)
@@ -450,10 +344,6 @@ void View::drawCurves(QPainter* painter)
     if (!painter)
         return;
     const double plotWidth = m_plotRect.width();
-    // The mapping keeps rows inside the plot and the sweeps stop at its edges, but a free-running
-    // curve one screen wide starts a pixel left of it: the clip keeps the margins clean.
-    painter->save();
-    painter->setClipRect(m_plotRect);
     for (int i = 0; i < m_numChannels; ++i) {
         Channel& c = m_channels[i];
         if (!c.enabled || c.points.isEmpty())
@@ -477,7 +367,6 @@ void View::drawCurves(QPainter* painter)
         c.points.erase(c.points.begin(), c.points.begin() + keep);
         drawDataReverse(c, painter);
     }
-    painter->restore();
 }
 
 void View::drawData(const Channel& channel, QPainter* painter)
@@ -547,9 +436,9 @@ void View::drawDataReverse(const Channel& channel, QPainter* painter)
 
 void View::drawMapped(const Channel& channel, QPainter* painter, int count)
 {
-    const Trace used = trace(m_mapped.constData(), count, channel.color.alpha() == 255,
-                             m_curveLines, m_curveColumns);
-    drawCurve(painter, m_curveLines, m_curveColumns, used);
+    // The mapping keeps rows inside the plot and the sweeps stop at its edges, but a free-running
+    // curve one screen wide starts a pixel left of it: the clip keeps the margins clean.
+    CurveRasteriser(painter, m_plotRect).draw(m_mapped.constData(), count, channel.color);
 }
 
 void View::refreshPixmap()
@@ -566,16 +455,17 @@ void View::refreshPixmap()
     m_labelHeight = 18;
     m_yCentre = (m_plotRect.top() + m_plotRect.bottom()) / 2;
 
+    m_pixmap = QPixmap();
     // Kept while the size stays: a new one each time costs the page faults of a fresh buffer.
-    if (m_pixmap.size() != QSize(w, h))
-        m_pixmap = QPixmap(w, h);
+    if (m_image.size() != QSize(w, h))
+        m_image = QImage(w, h, QImage::Format_RGB32);
     // An empty widget has nothing to paint on.
-    if (m_pixmap.isNull()) {
+    if (m_image.isNull()) {
         update();
         return;
     }
-    m_pixmap.fill(palette().color(backgroundRole()));
-    QPainter painter(&m_pixmap);
+    m_image.fill(palette().color(backgroundRole()));
+    QPainter painter(&m_image);
     drawGrid(&painter);
     drawArrows(&painter);
     drawCurves(&painter);
@@ -586,7 +476,14 @@ void View::refreshPixmap()
 void View::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_pixmap);
+    painter.drawImage(0, 0, m_image);
+}
+
+const QPixmap& View::pixmap() const
+{
+    if (m_pixmap.isNull() && !m_image.isNull())
+        m_pixmap = QPixmap::fromImage(m_image);
+    return m_pixmap;
 }
 
 void View::mousePressEvent(QMouseEvent* event)
@@ -686,7 +583,7 @@ void View::on_copy_image()
     int count = 0;
     for (int i = 0; i < m_numChannels; ++i)
         count += m_channels[i].enabled ? 1 : 0;
-    if (count == 0 || m_pixmap.isNull())
+    if (count == 0 || m_image.isNull())
         return;
 
     const QColor background = palette().color(backgroundRole());
@@ -709,11 +606,11 @@ void View::on_copy_image()
     }
     painter.end();
 
-    QPixmap result(m_pixmap.width(), m_pixmap.height() + legend.height());
+    QPixmap result(m_image.width(), m_image.height() + legend.height());
     result.fill(background);
     painter.begin(&result);
-    painter.drawPixmap(0, 0, m_pixmap);
-    painter.drawPixmap(0, m_pixmap.height(), legend);
+    painter.drawImage(0, 0, m_image);
+    painter.drawPixmap(0, m_image.height(), legend);
     painter.end();
     QApplication::clipboard()->setPixmap(result, QClipboard::Clipboard);
 }

@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QLineF>
+#include <QImage>
 #include <QPixmap>
 #include <QPointF>
 #include <QPolygonF>
@@ -82,7 +83,7 @@ public:
     /// The pixel row of the value 0 at offset 0, as of the last refresh.
     int yCentre() const { return m_yCentre; }
     /// The picture the view shows.
-    const QPixmap& pixmap() const { return m_pixmap; }
+    const QPixmap& pixmap() const;
 
     /// The pixel row of \a value, clamped to the plot.
     int yValue2pixel(const Channel& channel, double value) const;
@@ -132,7 +133,10 @@ private:
     int m_numChannels = 4;
     QPolygonF m_offsetArrowShape;
     QPolygonF m_triggerArrowShape;
-    QPixmap m_pixmap;
+    // The picture is painted into an image, whose pixels the curves are written to directly;
+    // the pixmap is made from it only when asked for.
+    QImage m_image;
+    mutable QPixmap m_pixmap;
     QRect m_plotRect;
     int m_labelHeight = 0;
     int m_yCentre = 0;
@@ -145,8 +149,6 @@ private:
     QVector<QPushButton*> m_channelButtons;
     QButtonGroup* m_channelButtonGroup = nullptr;
     // Reused by every curve, so that a refresh allocates nothing once the sizes settle.
-    QVector<QLineF> m_curveLines;
-    QVector<QRect> m_curveColumns;
     QVector<QPointF> m_mapped;        ///< the curve being drawn, in pixels
 };
 
