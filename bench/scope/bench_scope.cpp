@@ -9,7 +9,9 @@
 //     of the same size.
 // A last benchmark times View::addPoint with rising-edge triggers.
 //
-// Run: build-bench/bench/scope/bench_scope [Google Benchmark flags]; see scripts/bench.
+// Run: build-bench/bench/scope/bench_scope [Google Benchmark flags]; see scripts/bench, which also
+// runs it with QT_NO_CPU_FEATURE=avx2: on some CPUs Qt's AVX2 span functions make one-pixel lines
+// into 32-bit images fifteen times slower, and the goals hold with and without them.
 
 #include <kes/qt/scope/view.h>
 
@@ -21,6 +23,7 @@
 #include <qcustomplot.h>
 
 #include <QApplication>
+#include <QByteArray>
 #include <QLineF>
 #include <QPainter>
 #include <QPixmap>
@@ -211,7 +214,10 @@ void printSummary(const kes::bench::SummaryReporter& reporter)
 {
     using kes::bench::Goal;
     using kes::bench::printRatio;
-    std::printf("\nSummary (CPU time per full refresh, 16 channels at 1280 x 720, this run)\n");
+    const QByteArray features = qgetenv("QT_NO_CPU_FEATURE");
+    std::printf("\nSummary (CPU time per full refresh, 16 channels at 1280 x 720, this run, %s)\n",
+                features.isEmpty() ? "all CPU features"
+                                   : ("QT_NO_CPU_FEATURE=" + features).constData());
     for (int count : {10000, 1000}) {
         const double sweep = reporter.nanoseconds(named(nameSweep, count));
         const double free = reporter.nanoseconds(named(nameFree, count));
@@ -221,12 +227,11 @@ void printSummary(const kes::bench::SummaryReporter& reporter)
         const bool goal = count == 10000;
         kes::bench::printValue(("refresh, sweep, " + n + " points (ms)").c_str(), sweep / 1e6, "ms");
         kes::bench::printValue(("refresh, free running, " + n + " points (ms)").c_str(), free / 1e6, "ms");
-        printRatio(("sweep / QCustomPlot replot, " + n).c_str(), sweep, qcp,
-                   goal ? Goal::AtMost : Goal::None, 1.0);
-        printRatio(("free running / QCustomPlot replot, " + n).c_str(), free, qcp,
-                   goal ? Goal::AtMost : Goal::None, 1.0);
+        printRatio(("sweep / QCustomPlot replot, " + n).c_str(), sweep, qcp, Goal::AtMost, 0.5);
+        printRatio(("free running / QCustomPlot replot, " + n).c_str(), free, qcp, Goal::AtMost,
+                   0.5);
         printRatio(("per-segment drawLine / sweep, " + n).c_str(), segments, sweep,
-                   goal ? Goal::AtLeast : Goal::None, 3.0);
+                   goal ? Goal::AtLeast : Goal::None, 5.0);
     }
     const double add = reporter.nanoseconds(nameAddPoint);
     kes::bench::printValue("addPoint, ns per sample", add < 0 ? add : add / (10000.0 * channels), "ns");
