@@ -4,6 +4,7 @@
 #include <kes/qt/translation/manager.h>
 
 #include <QAction>
+#include <QPointer>
 #include <QColorDialog>
 #include <QSignalMapper>
 
@@ -35,13 +36,39 @@ QAction* addMapped(QMenu* menu, QSignalMapper* mapper, int value, bool checked)
 
 } // namespace
 
+class ChannelMenuPrivate
+{
+public:
+    ChannelMenuPrivate(ChannelMenu* q, int channel, View* view)
+        : channel(channel)
+        , view(view)
+        , xscaleMapper(new QSignalMapper(q))
+        , yscaleMapper(new QSignalMapper(q))
+        , triggerMapper(new QSignalMapper(q))
+    {
+    }
+
+    const int channel;
+    const QPointer<View> view;
+    QSignalMapper* const xscaleMapper;
+    QSignalMapper* const yscaleMapper;
+    QSignalMapper* const triggerMapper;
+    QAction* enable = nullptr;
+    QAction* disable = nullptr;
+    QMenu* timeMenu = nullptr;
+    QMenu* amplificationMenu = nullptr;
+    QMenu* triggerMenu = nullptr;
+    QVector<QAction*> timeActions;
+    QVector<QAction*> amplificationActions;
+    QAction* triggerOff = nullptr;
+    QAction* triggerRising = nullptr;
+    QAction* triggerFalling = nullptr;
+    QAction* color = nullptr;
+};
+
 ChannelMenu::ChannelMenu(int channel, View* view)
     : QMenu()
-    , m_channel(channel)
-    , m_view(view)
-    , m_xscaleMapper(new QSignalMapper(this))
-    , m_yscaleMapper(new QSignalMapper(this))
-    , m_triggerMapper(new QSignalMapper(this))
+    , d(std::make_unique<ChannelMenuPrivate>(this, channel, view))
 {
     const bool single = channel >= 0;
     const QVector<int> shown = targets();
@@ -63,41 +90,41 @@ ChannelMenu::ChannelMenu(int channel, View* view)
         if (view)
             setIcon(QIcon(view->channel(channel).icon));
     } else {
-        m_enable = addAction(QString(), this, SLOT(on_enable_channel()));
+        d->enable = addAction(QString(), this, SLOT(on_enable_channel()));
     }
-    m_disable = addAction(QString(), this, SLOT(on_disable_channel()));
+    d->disable = addAction(QString(), this, SLOT(on_disable_channel()));
 
-    m_timeMenu = addMenu(QString());
-    m_amplificationMenu = addMenu(QString());
+    d->timeMenu = addMenu(QString());
+    d->amplificationMenu = addMenu(QString());
     for (int step = 0; step < scaleSteps; ++step) {
         const int value = scaleValue(step);
-        m_timeActions.append(addMapped(m_timeMenu, m_xscaleMapper, value,
+        d->timeActions.append(addMapped(d->timeMenu, d->xscaleMapper, value,
                                        everyScale([](const Channel& c) { return c.xScale; },
                                                   double(value))));
-        m_amplificationActions.append(
-            addMapped(m_amplificationMenu, m_yscaleMapper, value,
+        d->amplificationActions.append(
+            addMapped(d->amplificationMenu, d->yscaleMapper, value,
                       everyScale([](const Channel& c) { return c.yScale; }, value * 0.1)));
     }
 
-    m_triggerMenu = addMenu(QString());
+    d->triggerMenu = addMenu(QString());
     const int trigger = single && view ? int(view->channel(channel).trigger) : -1;
-    m_triggerOff = addMapped(m_triggerMenu, m_triggerMapper, TriggerOff, trigger == TriggerOff);
-    m_triggerRising = addMapped(m_triggerMenu, m_triggerMapper, TriggerRisingEdge,
+    d->triggerOff = addMapped(d->triggerMenu, d->triggerMapper, TriggerOff, trigger == TriggerOff);
+    d->triggerRising = addMapped(d->triggerMenu, d->triggerMapper, TriggerRisingEdge,
                                 trigger == TriggerRisingEdge);
-    m_triggerFalling = addMapped(m_triggerMenu, m_triggerMapper, TriggerFallingEdge,
+    d->triggerFalling = addMapped(d->triggerMenu, d->triggerMapper, TriggerFallingEdge,
                                  trigger == TriggerFallingEdge);
     for (int j = 0; view && j < view->numChannels(); ++j) {
         if (j != channel)
-            addMapped(m_triggerMenu, m_triggerMapper, j, trigger == j)->setText(
+            addMapped(d->triggerMenu, d->triggerMapper, j, trigger == j)->setText(
                 view->channel(j).name);
     }
 
     if (single)
-        m_color = addAction(QString(), this, SLOT(on_color()));
+        d->color = addAction(QString(), this, SLOT(on_color()));
 
-    connect(m_xscaleMapper, SIGNAL(mapped(int)), this, SLOT(on_xscale(int)));
-    connect(m_yscaleMapper, SIGNAL(mapped(int)), this, SLOT(on_yscale(int)));
-    connect(m_triggerMapper, SIGNAL(mapped(int)), this, SLOT(on_trigger(int)));
+    connect(d->xscaleMapper, SIGNAL(mapped(int)), this, SLOT(on_xscale(int)));
+    connect(d->yscaleMapper, SIGNAL(mapped(int)), this, SLOT(on_yscale(int)));
+    connect(d->triggerMapper, SIGNAL(mapped(int)), this, SLOT(on_trigger(int)));
 
     connect(&translation::Manager::singleton(), SIGNAL(languageChanged()), this,
             SLOT(translate()));
@@ -106,39 +133,44 @@ ChannelMenu::ChannelMenu(int channel, View* view)
 
 ChannelMenu::~ChannelMenu() = default;
 
+int ChannelMenu::channel() const
+{
+    return d->channel;
+}
+
 void ChannelMenu::translate()
 {
-    if (m_channel >= 0) {
-        if (m_view)
-            setTitle(m_view->channel(m_channel).name);
+    if (d->channel >= 0) {
+        if (d->view)
+            setTitle(d->view->channel(d->channel).name);
     } else {
         setTitle(tr("All channels"));
-        m_enable->setText(tr("Enable"));
+        d->enable->setText(tr("Enable"));
     }
-    m_disable->setText(tr("Disable"));
-    m_timeMenu->setTitle(tr("Time"));
-    m_amplificationMenu->setTitle(tr("Amplification"));
-    m_triggerMenu->setTitle(tr("Trigger"));
+    d->disable->setText(tr("Disable"));
+    d->timeMenu->setTitle(tr("Time"));
+    d->amplificationMenu->setTitle(tr("Amplification"));
+    d->triggerMenu->setTitle(tr("Trigger"));
     for (int step = 0; step < scaleSteps; ++step) {
         const int value = scaleValue(step);
-        m_timeActions.at(step)->setText(tr("%1ms").arg(value));
-        m_amplificationActions.at(step)->setText(tr("%1 / Div").arg(value * 0.1, 0, 'g', -1));
+        d->timeActions.at(step)->setText(tr("%1ms").arg(value));
+        d->amplificationActions.at(step)->setText(tr("%1 / Div").arg(value * 0.1, 0, 'g', -1));
     }
-    m_triggerOff->setText(tr("Off"));
-    m_triggerRising->setText(tr("Rising edge"));
-    m_triggerFalling->setText(tr("Falling edge"));
-    if (m_color)
-        m_color->setText(tr("Set color"));
+    d->triggerOff->setText(tr("Off"));
+    d->triggerRising->setText(tr("Rising edge"));
+    d->triggerFalling->setText(tr("Falling edge"));
+    if (d->color)
+        d->color->setText(tr("Set color"));
 }
 
 QVector<int> ChannelMenu::targets() const
 {
-    if (!m_view)
+    if (!d->view)
         return {};
-    if (m_channel >= 0)
-        return {m_channel};
+    if (d->channel >= 0)
+        return {d->channel};
     QVector<int> all;
-    for (int i = 0; i < m_view->numChannels(); ++i)
+    for (int i = 0; i < d->view->numChannels(); ++i)
         all.append(i);
     return all;
 }
@@ -146,32 +178,32 @@ QVector<int> ChannelMenu::targets() const
 void ChannelMenu::on_enable_channel()
 {
     for (int i : targets()) {
-        m_view->setChannelEnabled(i, true);
-        emit channelEnabled(i, true);
+        d->view->setChannelEnabled(i, true);
+        Q_EMIT channelEnabled(i, true);
     }
 }
 
 void ChannelMenu::on_disable_channel()
 {
     for (int i : targets()) {
-        m_view->setChannelEnabled(i, false);
-        emit channelEnabled(i, false);
+        d->view->setChannelEnabled(i, false);
+        Q_EMIT channelEnabled(i, false);
     }
 }
 
 void ChannelMenu::on_xscale(int value)
 {
     for (int i : targets()) {
-        m_view->setXScale(i, value);
-        emit xscaleChanged(i, value);
+        d->view->setXScale(i, value);
+        Q_EMIT xscaleChanged(i, value);
     }
 }
 
 void ChannelMenu::on_yscale(int value)
 {
     for (int i : targets()) {
-        m_view->setYScale(i, value * 0.1);
-        emit yscaleChanged(i, value * 0.1);
+        d->view->setYScale(i, value * 0.1);
+        Q_EMIT yscaleChanged(i, value * 0.1);
     }
 }
 
@@ -180,23 +212,23 @@ void ChannelMenu::on_trigger(int trigger)
     for (int i : targets()) {
         if (i == trigger)
             continue;
-        m_view->setTrigger(i, Trigger_t(trigger));
+        d->view->setTrigger(i, Trigger_t(trigger));
         // A refused choice (it would close a cycle of followers) is not reported.
-        if (m_view->channel(i).trigger == trigger)
-            emit triggerChanged(i, trigger);
+        if (d->view->channel(i).trigger == trigger)
+            Q_EMIT triggerChanged(i, trigger);
     }
 }
 
 void ChannelMenu::on_color()
 {
-    if (!m_view)
+    if (!d->view)
         return;
-    const QColor color = QColorDialog::getColor(m_view->channel(m_channel).color, m_view);
+    const QColor color = QColorDialog::getColor(d->view->channel(d->channel).color, d->view);
     // The dialog runs an event loop of its own, in which the view may go.
-    if (!color.isValid() || !m_view)
+    if (!color.isValid() || !d->view)
         return;
-    m_view->setColor(m_channel, color);
-    emit colorChanged(m_channel, color.rgb());
+    d->view->setColor(d->channel, color);
+    Q_EMIT colorChanged(d->channel, color.rgb());
 }
 
 } // namespace kes::qt::scope

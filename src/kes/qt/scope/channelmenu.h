@@ -4,14 +4,13 @@
 #include <kes/qt/kes_qt_export.h>
 
 #include <QMenu>
-#include <QPointer>
 #include <QVector>
 
-class QAction;
-class QSignalMapper;
+#include <memory>
 
 namespace kes::qt::scope {
 
+class ChannelMenuPrivate;
 class View;
 
 /// The submenu of a View's context menu that edits one channel, or every shown channel at once
@@ -31,7 +30,7 @@ public:
     ChannelMenu(int channel, View* view);
     ~ChannelMenu() override;
 
-    int channel() const { return m_channel; }
+    int channel() const;
 
 public Q_SLOTS:
     void translate();
@@ -55,22 +54,7 @@ private:
     /// The channels a slot applies to: this one, or every shown one.
     QVector<int> targets() const;
 
-    int m_channel;
-    QPointer<View> m_view;
-    QSignalMapper* m_xscaleMapper;
-    QSignalMapper* m_yscaleMapper;
-    QSignalMapper* m_triggerMapper;
-    QAction* m_enable = nullptr;
-    QAction* m_disable = nullptr;
-    QMenu* m_timeMenu = nullptr;
-    QMenu* m_amplificationMenu = nullptr;
-    QMenu* m_triggerMenu = nullptr;
-    QVector<QAction*> m_timeActions;
-    QVector<QAction*> m_amplificationActions;
-    QAction* m_triggerOff = nullptr;
-    QAction* m_triggerRising = nullptr;
-    QAction* m_triggerFalling = nullptr;
-    QAction* m_color = nullptr;
+    std::unique_ptr<ChannelMenuPrivate> const d;
 };
 
 } // namespace kes::qt::scope

@@ -2,7 +2,9 @@
 
 #include <kes/qt/scope/channelmenu.h>
 
+#include "clipboardexport_p.h"
 #include "curverasteriser_p.h"
+#include "triggerlinks_p.h"
 
 #include <QAction>
 #include <QApplication>
@@ -64,46 +66,113 @@ private:
     int m_bottom;
 };
 
+// The plot's margins. The left one holds the column of channel buttons and the zero-line
+// marker, whose tip touches the frame; the right one the trigger marker.
+constexpr int leftMargin = 27;
+constexpr int topMargin = 2;
+constexpr int rightMargin = 12;   // from the widget's width to the plot's last column
+constexpr int bottomMargin = 13;  // from the widget's height to the plot's last row
+// Reserved for x-axis labels below the plot; set by every refresh, read by nothing.
+constexpr int labelHeight = 18;
+constexpr int channelButtonSize = 20;
+constexpr int channelButtonTop = 2;
+constexpr int channelIconSize = 12;
+// The markers cannot be dragged into bands this high at the top and bottom of the plot, where
+// they would leave it.
+constexpr int markerDragBand = 8;
+// A channel with a trigger records up to 10,000 samples, then waits for its next trigger.
+constexpr int triggeredSampleLimit = 9999;
+constexpr QSize smallestSize(320, 240);
+
+bool isChannel(int channel)
+{
+    return channel >= 0 && channel < View::maxChannels;
+}
+
 } // namespace
+
+class ViewPrivate
+{
+public:
+    // What a press on the plot started dragging. Every left or right press sets it anew, so the
+    // initial value has no visible effect.
+    enum class DragMode { None, ZeroLine, TriggerLevel };
+
+    explicit ViewPrivate(View* q);
+
+    void updateToolTip(int channel);
+    // Draws the first \a count points of mapped, in pixels, in the channel's colour.
+    void drawMapped(const Channel& channel, QPainter* painter, int count);
+
+    View* const q;
+    TriggerLinks::Channels channels;
+    int numChannels = 4;
+    const QPolygonF offsetArrowShape{QVector<QPointF>{{0, 0}, {-9, -4}, {-9, 4}}};
+    const QPolygonF triggerArrowShape{QVector<QPointF>{{0, 0}, {9, -4}, {9, 4}}};
+    // The picture is painted into an image, whose pixels the curves are written to directly;
+    // the pixmap is made from it only when asked for.
+    QImage image;
+    QPixmap pixmap;
+    QRect plotRect;
+    int labelHeight = 0;
+    int yCentre = 0;
+    QString xAxisTitle = QStringLiteral("Time [s]");
+    int currentChannel = 0;
+    DragMode dragMode = DragMode::ZeroLine;
+    QPointF lastMousePos;
+    const QVector<QColor> defaultColors{Qt::red,      Qt::green,       Qt::blue,       Qt::cyan,
+                                        Qt::magenta,  Qt::yellow,      Qt::darkRed,    Qt::darkGreen,
+                                        Qt::darkBlue, Qt::darkCyan,    Qt::darkMagenta, Qt::darkYellow,
+                                        Qt::white,    Qt::black,       Qt::red,        Qt::green};
+    QVector<QString> defaultNames;
+    QVector<QPushButton*> channelButtons;
+    QButtonGroup* channelButtonGroup = nullptr;
+    // Reused by every curve, so that a refresh allocates nothing once the sizes settle.
+    QVector<QPointF> mapped;
+};
+
+ViewPrivate::ViewPrivate(View* q)
+    : q(q)
+{
+    for (int i = 0; i < View::maxChannels; ++i)
+        defaultNames.append(QStringLiteral("Channel %1").arg(i + 1));
+}
+
+void ViewPrivate::drawMapped(const Channel& channel, QPainter* painter, int count)
+{
+    // The mapping keeps rows inside the plot and the sweeps stop at its edges, but a free-running
+    // curve one screen wide starts a pixel left of it: the clip keeps the margins clean.
+    CurveRasteriser(painter, plotRect).draw(mapped.constData(), count, channel.color);
+}
 
 View::View(QWidget* parent)
     : QWidget(parent)
-    , m_offsetArrowShape(QVector<QPointF>{{0, 0}, {-9, -4}, {-9, 4}})
-    , m_triggerArrowShape(QVector<QPointF>{{0, 0}, {9, -4}, {9, 4}})
-    , m_plotRect()
-    , m_xAxisTitle(QStringLiteral("Time [s]"))
-    , m_defaultColors{Qt::red,      Qt::green,       Qt::blue,       Qt::cyan,
-                      Qt::magenta,  Qt::yellow,      Qt::darkRed,    Qt::darkGreen,
-                      Qt::darkBlue, Qt::darkCyan,    Qt::darkMagenta, Qt::darkYellow,
-                      Qt::white,    Qt::black,       Qt::red,        Qt::green}
+    , d(std::make_unique<ViewPrivate>(this))
 {
-    for (int i = 0; i < maxChannels; ++i)
-        m_defaultNames.append(QStringLiteral("Channel %1").arg(i + 1));
-
-    setMinimumSize(320, 240);
+    setMinimumSize(smallestSize);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 
-    m_channelButtonGroup = new QButtonGroup(this);
-    m_channelButtonGroup->setObjectName(QStringLiteral("channelButtonGroup"));
+    d->channelButtonGroup = new QButtonGroup(this);
+    d->channelButtonGroup->setObjectName(QStringLiteral("channelButtonGroup"));
     for (int i = 0; i < maxChannels; ++i) {
         auto* button = new QPushButton(this);
         button->setObjectName(QStringLiteral("channelButton%1").arg(i));
-        button->setFixedSize(20, 20);
+        button->setFixedSize(channelButtonSize, channelButtonSize);
         button->setCheckable(true);
         button->setFlat(true);
-        m_channelButtonGroup->addButton(button, i);
-        button->move(0, 20 * i + 2);
-        if (i >= m_numChannels)
+        d->channelButtonGroup->addButton(button, i);
+        button->move(0, channelButtonSize * i + channelButtonTop);
+        if (i >= d->numChannels)
             button->hide();
-        m_channelButtons.append(button);
-        setColor(i, m_defaultColors.at(i));
-        setChannelName(i, m_defaultNames.at(i));
-        updateToolTip(i);
+        d->channelButtons.append(button);
+        setColor(i, d->defaultColors.at(i));
+        setChannelName(i, d->defaultNames.at(i));
+        d->updateToolTip(i);
     }
-    connect(m_channelButtonGroup, SIGNAL(buttonClicked(int)), this,
+    connect(d->channelButtonGroup, SIGNAL(buttonClicked(int)), this,
             SLOT(on_channelButtonGroup_buttonClicked(int)));
 
-    m_channelButtons.at(0)->setChecked(true);
+    d->channelButtons.at(0)->setChecked(true);
     refreshPixmap();
 }
 
@@ -111,30 +180,60 @@ View::~View() = default;
 
 void View::setNumChannels(int n)
 {
-    m_numChannels = n < 0 ? 0 : std::min(n, int(maxChannels));
+    d->numChannels = n < 0 ? 0 : std::min(n, int(maxChannels));
     for (int i = 0; i < maxChannels; ++i) {
-        m_channelButtons.at(i)->show();
-        if (i >= m_numChannels) {
-            m_channelButtons.at(i)->hide();
-            m_channels[i].points.clear();
+        d->channelButtons.at(i)->show();
+        if (i >= d->numChannels) {
+            d->channelButtons.at(i)->hide();
+            d->channels[i].points.clear();
         }
     }
-    if (n > m_currentChannel)
+    if (n > d->currentChannel)
         refreshPixmap();
     else
         setCurrentChannel(-1);
 }
 
+int View::numChannels() const
+{
+    return d->numChannels;
+}
+
+int View::currentChannel() const
+{
+    return d->currentChannel;
+}
+
+void View::setXAxisTitle(const QString& title)
+{
+    d->xAxisTitle = title;
+}
+
+QString View::xAxisTitle() const
+{
+    return d->xAxisTitle;
+}
+
+QRect View::plotRect() const
+{
+    return d->plotRect;
+}
+
+int View::yCentre() const
+{
+    return d->yCentre;
+}
+
 void View::setCurrentChannel(int channel)
 {
-    m_currentChannel = channel;
+    d->currentChannel = channel;
     // An exclusive group keeps one button checked; it has to let go to show no channel at all.
-    m_channelButtonGroup->setExclusive(false);
-    for (QPushButton* button : qAsConst(m_channelButtons))
+    d->channelButtonGroup->setExclusive(false);
+    for (QPushButton* button : qAsConst(d->channelButtons))
         button->setChecked(false);
     if (isChannel(channel))
-        m_channelButtons.at(channel)->setChecked(true);
-    m_channelButtonGroup->setExclusive(true);
+        d->channelButtons.at(channel)->setChecked(true);
+    d->channelButtonGroup->setExclusive(true);
     refreshPixmap();
 }
 
@@ -142,9 +241,9 @@ void View::setChannelEnabled(int channel, bool enable)
 {
     if (!isChannel(channel))
         return;
-    m_channels[channel].enabled = enable;
-    m_channelButtons.at(channel)->setEnabled(enable);
-    if (!enable && channel == m_currentChannel)
+    d->channels[channel].enabled = enable;
+    d->channelButtons.at(channel)->setEnabled(enable);
+    if (!enable && channel == d->currentChannel)
         setCurrentChannel(-1);
     refreshPixmap();
 }
@@ -152,18 +251,18 @@ void View::setChannelEnabled(int channel, bool enable)
 void View::setChannelName(int channel, const QString& name)
 {
     if (isChannel(channel))
-        m_channels[channel].name = name;
+        d->channels[channel].name = name;
 }
 
 void View::setColor(int channel, const QColor& color)
 {
     if (!isChannel(channel))
         return;
-    Channel& c = m_channels[channel];
+    Channel& c = d->channels[channel];
     c.color = color;
-    c.icon = QPixmap(12, 12);
+    c.icon = QPixmap(channelIconSize, channelIconSize);
     c.icon.fill(color);
-    m_channelButtons.at(channel)->setIcon(QIcon(c.icon));
+    d->channelButtons.at(channel)->setIcon(QIcon(c.icon));
     refreshPixmap();
 }
 
@@ -176,9 +275,9 @@ void View::setXScale(int channel, double scale)
 {
     if (!isChannel(channel))
         return;
-    m_channels[channel].xScale = scale;
+    d->channels[channel].xScale = scale;
     refreshPixmap();
-    updateToolTip(channel);
+    d->updateToolTip(channel);
 }
 
 void View::setYScale(int channel, double scale)
@@ -186,51 +285,30 @@ void View::setYScale(int channel, double scale)
     if (!isChannel(channel))
         return;
     setYOffset(channel, 0.0);
-    m_channels[channel].yScale = scale;
+    d->channels[channel].yScale = scale;
     refreshPixmap();
-    updateToolTip(channel);
+    d->updateToolTip(channel);
 }
 
 void View::setYOffset(int channel, double offset)
 {
     if (!isChannel(channel))
         return;
-    m_channels[channel].yOffset = offset;
+    d->channels[channel].yOffset = offset;
     refreshPixmap();
 }
 
 void View::setTrigger(int channel, Trigger_t trigger)
 {
-    if (!isChannel(channel))
-        return;
-    // Following a channel that leads back here would make onTrigger() recurse for ever. Each
-    // channel follows at most one other, so the chain has at most 16 links.
-    for (int link = trigger, steps = 0; isChannel(link) && steps <= maxChannels; ++steps) {
-        if (link == channel)
-            return;
-        link = m_channels[link].trigger;
-    }
-
-    Channel& c = m_channels[channel];
-    if (isChannel(c.trigger))
-        m_channels[c.trigger].followers.remove(&c);
-    c.trigger = trigger;
-    if (trigger == TriggerOff) {
-        c.setTriggered(false);
-    } else if (trigger == TriggerRisingEdge || trigger == TriggerFallingEdge) {
-        c.setTriggered(true);
-    } else if (isChannel(trigger)) {
-        c.setTriggered(m_channels[trigger].triggered);
-        m_channels[trigger].followers.insert(&c);
-    }
-    refreshPixmap();
+    if (TriggerLinks::setTrigger(d->channels, channel, trigger))
+        refreshPixmap();
 }
 
 void View::setTriggerPosition(int channel, double position)
 {
     if (!isChannel(channel))
         return;
-    m_channels[channel].triggerPosition = position;
+    d->channels[channel].triggerPosition = position;
     refreshPixmap();
 }
 
@@ -238,15 +316,15 @@ void View::setInterpolationMethod(int channel, InterpolationMethod_t method)
 {
     if (!isChannel(channel))
         return;
-    m_channels[channel].interpolationMethod = method;
+    d->channels[channel].interpolationMethod = method;
     refreshPixmap();
 }
 
 void View::addPoint(int channel, double x, double y)
 {
-    if (channel < 0 || channel >= m_numChannels || !std::isfinite(x))
+    if (channel < 0 || channel >= d->numChannels || !std::isfinite(x))
         return;
-    Channel& c = m_channels[channel];
+    Channel& c = d->channels[channel];
     const double level = c.triggerPosition;
 
     if (c.trigger == TriggerOff) {
@@ -265,14 +343,14 @@ void View::addPoint(int channel, double x, double y)
     if (fired)
         c.onTrigger();
     // A full channel stops recording until the next trigger clears it.
-    if (c.points.size() <= 9999)
+    if (c.points.size() <= triggeredSampleLimit)
         c.points.append(QPointF(x, y));
     c.lastY = y;
 }
 
 const Channel& View::channel(int channel) const
 {
-    return m_channels[isChannel(channel) ? channel : 0];
+    return d->channels[isChannel(channel) ? channel : 0];
 }
 
 void View::redraw()
@@ -282,12 +360,12 @@ void View::redraw()
 
 int View::yValue2pixel(const Channel& channel, double value) const
 {
-    return RowMapping(channel, m_yCentre, m_plotRect)(value);
+    return RowMapping(channel, d->yCentre, d->plotRect)(value);
 }
 
 double View::pixel2yValue(const Channel& channel, int pixel) const
 {
-    return (pixel - m_yCentre) / channel.yPixelsPerUnit + channel.yOffset;
+    return (pixel - d->yCentre) / channel.yPixelsPerUnit + channel.yOffset;
 }
 
 void View::drawGrid(QPainter* painter)
@@ -297,10 +375,10 @@ void View::drawGrid(QPainter* painter)
     // One-pixel lines drawn as rectangles of the same pixels: on CPUs with Qt's slow AVX2 span
     // functions the twenty lines of the grid alone cost a few milliseconds.
     const QBrush dark = palette().brush(QPalette::Dark);
-    const int left = m_plotRect.left();
-    const int right = m_plotRect.right();
-    const int top = m_plotRect.top();
-    const int bottom = m_plotRect.bottom();
+    const int left = d->plotRect.left();
+    const int right = d->plotRect.right();
+    const int top = d->plotRect.top();
+    const int bottom = d->plotRect.bottom();
     const int width = right - left + 1;
     const int height = bottom - top + 1;
     for (int k = 1; k <= 9; ++k)
@@ -318,23 +396,23 @@ void View::drawGrid(QPainter* painter)
 
 void View::drawArrows(QPainter* painter)
 {
-    if (!painter || !isChannel(m_currentChannel))
+    if (!painter || !isChannel(d->currentChannel))
         return;
-    Channel& c = m_channels[m_currentChannel];
+    Channel& c = d->channels[d->currentChannel];
     painter->setBrush(QBrush(c.color, Qt::SolidPattern));
 
     const int y0 = yValue2pixel(c, 0.0);
-    painter->translate(m_plotRect.left(), y0);
-    painter->drawPolygon(m_offsetArrowShape);
+    painter->translate(d->plotRect.left(), y0);
+    painter->drawPolygon(d->offsetArrowShape);
     painter->resetTransform();
-    c.offsetArrow = m_offsetArrowShape.translated(m_plotRect.left(), y0);
+    c.offsetArrow = d->offsetArrowShape.translated(d->plotRect.left(), y0);
 
     if (c.trigger != TriggerOff) {
         const int yT = yValue2pixel(c, c.triggerPosition);
-        painter->translate(m_plotRect.right(), yT);
-        painter->drawPolygon(m_triggerArrowShape);
+        painter->translate(d->plotRect.right(), yT);
+        painter->drawPolygon(d->triggerArrowShape);
         painter->resetTransform();
-        c.triggerArrow = m_triggerArrowShape.translated(m_plotRect.right(), yT);
+        c.triggerArrow = d->triggerArrowShape.translated(d->plotRect.right(), yT);
     }
     painter->setBrush(QBrush(Qt::black, Qt::SolidPattern));
 }
@@ -343,9 +421,9 @@ void View::drawCurves(QPainter* painter)
 {
     if (!painter)
         return;
-    const double plotWidth = m_plotRect.width();
-    for (int i = 0; i < m_numChannels; ++i) {
-        Channel& c = m_channels[i];
+    const double plotWidth = d->plotRect.width();
+    for (int i = 0; i < d->numChannels; ++i) {
+        Channel& c = d->channels[i];
         if (!c.enabled || c.points.isEmpty())
             continue;
         painter->setPen(QPen(c.color, 1));
@@ -374,18 +452,18 @@ void View::drawData(const Channel& channel, QPainter* painter)
     const QVector<QPointF>& points = channel.points;
     if (!painter || points.isEmpty())
         return;
-    const double left = m_plotRect.left();
-    const double right = m_plotRect.right();
+    const double left = d->plotRect.left();
+    const double right = d->plotRect.right();
     const double x0 = points.constFirst().x();
     const double perUnit = channel.xPixelsPerUnit;
-    const RowMapping row(channel, m_yCentre, m_plotRect);
+    const RowMapping row(channel, d->yCentre, d->plotRect);
 
     // The samples from the left edge, then down or up to the zero row and along it to the right
     // edge, unless a sample beyond the right edge ended the sweep. Time that ran back before the
     // sweep's start (the application restarted its clock) ends it as well, and so does a time
     // base that maps to NaN.
-    m_mapped.resize(points.size() + 2);
-    QPointF* mapped = m_mapped.data();
+    d->mapped.resize(points.size() + 2);
+    QPointF* mapped = d->mapped.data();
     int count = 0;
     for (const QPointF& p : points) {
         const double px = (p.x() - x0) * perUnit + left;
@@ -399,7 +477,7 @@ void View::drawData(const Channel& channel, QPainter* painter)
         mapped[count + 1] = QPointF(right, zero);
         count += 2;
     }
-    drawMapped(channel, painter, count);
+    d->drawMapped(channel, painter, count);
 }
 
 void View::drawDataReverse(const Channel& channel, QPainter* painter)
@@ -407,17 +485,17 @@ void View::drawDataReverse(const Channel& channel, QPainter* painter)
     const QVector<QPointF>& points = channel.points;
     if (!painter || points.isEmpty())
         return;
-    const double left = m_plotRect.left();
-    const double right = m_plotRect.right();
+    const double left = d->plotRect.left();
+    const double right = d->plotRect.right();
     const double xLast = points.constLast().x();
     const double perUnit = channel.xPixelsPerUnit;
-    const RowMapping row(channel, m_yCentre, m_plotRect);
+    const RowMapping row(channel, d->yCentre, d->plotRect);
 
     // The samples from the right edge backwards, then to the zero row and along it to the left.
     // drawCurves() trimmed them to the width, give or take a pixel; a time base that maps to NaN
     // draws nothing.
-    m_mapped.resize(points.size() + 2);
-    QPointF* mapped = m_mapped.data();
+    d->mapped.resize(points.size() + 2);
+    QPointF* mapped = d->mapped.data();
     int count = 0;
     for (int i = points.size() - 1; i >= 0; --i) {
         const QPointF& p = points.at(i);
@@ -431,41 +509,34 @@ void View::drawDataReverse(const Channel& channel, QPainter* painter)
     const double zero = row(0.0);
     mapped[count] = QPointF(mapped[count - 1].x(), zero);
     mapped[count + 1] = QPointF(left, zero);
-    drawMapped(channel, painter, count + 2);
-}
-
-void View::drawMapped(const Channel& channel, QPainter* painter, int count)
-{
-    // The mapping keeps rows inside the plot and the sweeps stop at its edges, but a free-running
-    // curve one screen wide starts a pixel left of it: the clip keeps the margins clean.
-    CurveRasteriser(painter, m_plotRect).draw(m_mapped.constData(), count, channel.color);
+    d->drawMapped(channel, painter, count + 2);
 }
 
 void View::refreshPixmap()
 {
     const int w = width();
     const int h = height();
-    m_plotRect = QRect(QPoint(27, 2), QPoint(w - 12, h - 13));
-    const double plotWidth = m_plotRect.right() - m_plotRect.left() + 1;
-    const double plotHeight = m_plotRect.bottom() - m_plotRect.top() + 1;
-    for (Channel& c : m_channels) {
+    d->plotRect = QRect(QPoint(leftMargin, topMargin), QPoint(w - rightMargin, h - bottomMargin));
+    const double plotWidth = d->plotRect.right() - d->plotRect.left() + 1;
+    const double plotHeight = d->plotRect.bottom() - d->plotRect.top() + 1;
+    for (Channel& c : d->channels) {
         c.xPixelsPerUnit = plotWidth * (1.0 / (c.xScale * 10.0));
         c.yPixelsPerUnit = plotHeight * (1.0 / (c.yScale * 10.0));
     }
-    m_labelHeight = 18;
-    m_yCentre = (m_plotRect.top() + m_plotRect.bottom()) / 2;
+    d->labelHeight = labelHeight;
+    d->yCentre = (d->plotRect.top() + d->plotRect.bottom()) / 2;
 
-    m_pixmap = QPixmap();
+    d->pixmap = QPixmap();
     // Kept while the size stays: a new one each time costs the page faults of a fresh buffer.
-    if (m_image.size() != QSize(w, h))
-        m_image = QImage(w, h, QImage::Format_RGB32);
+    if (d->image.size() != QSize(w, h))
+        d->image = QImage(w, h, QImage::Format_RGB32);
     // An empty widget has nothing to paint on.
-    if (m_image.isNull()) {
+    if (d->image.isNull()) {
         update();
         return;
     }
-    m_image.fill(palette().color(backgroundRole()));
-    QPainter painter(&m_image);
+    d->image.fill(palette().color(backgroundRole()));
+    QPainter painter(&d->image);
     drawGrid(&painter);
     drawArrows(&painter);
     drawCurves(&painter);
@@ -476,27 +547,27 @@ void View::refreshPixmap()
 void View::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.drawImage(0, 0, m_image);
+    painter.drawImage(0, 0, d->image);
 }
 
 const QPixmap& View::pixmap() const
 {
-    if (m_pixmap.isNull() && !m_image.isNull())
-        m_pixmap = QPixmap::fromImage(m_image);
-    return m_pixmap;
+    if (d->pixmap.isNull() && !d->image.isNull())
+        d->pixmap = QPixmap::fromImage(d->image);
+    return d->pixmap;
 }
 
 void View::mousePressEvent(QMouseEvent* event)
 {
-    if (isChannel(m_currentChannel)) {
-        const Channel& c = m_channels[m_currentChannel];
-        m_lastMousePos = event->localPos();
-        if (c.offsetArrow.containsPoint(m_lastMousePos, Qt::OddEvenFill))
-            m_dragMode = 1;
-        else if (c.triggerArrow.containsPoint(m_lastMousePos, Qt::OddEvenFill))
-            m_dragMode = 2;
+    if (isChannel(d->currentChannel)) {
+        const Channel& c = d->channels[d->currentChannel];
+        d->lastMousePos = event->localPos();
+        if (c.offsetArrow.containsPoint(d->lastMousePos, Qt::OddEvenFill))
+            d->dragMode = ViewPrivate::DragMode::ZeroLine;
+        else if (c.triggerArrow.containsPoint(d->lastMousePos, Qt::OddEvenFill))
+            d->dragMode = ViewPrivate::DragMode::TriggerLevel;
         else
-            m_dragMode = 0;
+            d->dragMode = ViewPrivate::DragMode::None;
     }
     if (event->button() != Qt::RightButton)
         return;
@@ -518,8 +589,8 @@ void View::mousePressEvent(QMouseEvent* event)
         menu.addMenu(submenu);
     };
     adopt(new ChannelMenu(-1, this));
-    for (int i = 0; i < m_numChannels; ++i) {
-        const Channel& c = m_channels[i];
+    for (int i = 0; i < d->numChannels; ++i) {
+        const Channel& c = d->channels[i];
         if (c.enabled) {
             adopt(new ChannelMenu(i, this));
         } else {
@@ -536,29 +607,29 @@ void View::mousePressEvent(QMouseEvent* event)
 
 void View::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!isChannel(m_currentChannel) || m_dragMode == 0)
+    if (!isChannel(d->currentChannel) || d->dragMode == ViewPrivate::DragMode::None)
         return;
     const double y = std::round(event->localPos().y());
-    if (y <= m_plotRect.top() + 8 || y >= m_plotRect.bottom() - 8)
+    if (y <= d->plotRect.top() + markerDragBand || y >= d->plotRect.bottom() - markerDragBand)
         return;
-    const double dy = m_lastMousePos.y() - y;
-    m_lastMousePos = QPointF(std::round(event->localPos().x()), y);
-    const Channel& c = m_channels[m_currentChannel];
+    const double dy = d->lastMousePos.y() - y;
+    d->lastMousePos = QPointF(std::round(event->localPos().x()), y);
+    const Channel& c = d->channels[d->currentChannel];
     const double delta = dy / c.yPixelsPerUnit;
-    if (m_dragMode == 1) {
+    if (d->dragMode == ViewPrivate::DragMode::ZeroLine) {
         const double offset = c.yOffset + delta;
-        setYOffset(m_currentChannel, offset);
-        emit yOffsetChanged(m_currentChannel, offset);
-    } else if (m_dragMode == 2) {
+        setYOffset(d->currentChannel, offset);
+        Q_EMIT yOffsetChanged(d->currentChannel, offset);
+    } else if (d->dragMode == ViewPrivate::DragMode::TriggerLevel) {
         const double level = c.triggerPosition + delta;
-        setTriggerPosition(m_currentChannel, level);
-        emit triggerPositionChanged(m_currentChannel, level);
+        setTriggerPosition(d->currentChannel, level);
+        Q_EMIT triggerPositionChanged(d->currentChannel, level);
     }
 }
 
 void View::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
-    m_dragMode = 0;
+    d->dragMode = ViewPrivate::DragMode::None;
 }
 
 void View::resizeEvent(QResizeEvent* /*event*/)
@@ -569,50 +640,33 @@ void View::resizeEvent(QResizeEvent* /*event*/)
 void View::on_enable_channel(int channel)
 {
     setChannelEnabled(channel, true);
-    emit channelEnabled(channel, true);
+    Q_EMIT channelEnabled(channel, true);
 }
 
 void View::on_channelButtonGroup_buttonClicked(int id)
 {
-    m_currentChannel = id;
+    d->currentChannel = id;
     refreshPixmap();
 }
 
 void View::on_copy_image()
 {
-    int count = 0;
-    for (int i = 0; i < m_numChannels; ++i)
-        count += m_channels[i].enabled ? 1 : 0;
-    if (count == 0 || m_image.isNull())
+    if (d->image.isNull())
         return;
-
-    const QColor background = palette().color(backgroundRole());
-    QPixmap legend(200, 14 * count);
-    legend.fill(background);
-    QPainter painter(&legend);
-    painter.setPen(QPen(Qt::black));
-    painter.setFont(QFont(QStringLiteral("Arial"), 8));
-    int rank = 0;
-    for (int i = 0; i < m_numChannels; ++i) {
-        const Channel& c = m_channels[i];
-        if (!c.enabled)
-            continue;
-        painter.drawPixmap(2, 14 * rank + 2, c.icon);
-        painter.drawText(QRect(QPoint(20, 14 * rank), QPoint(199, 14 * rank + 11)),
-                         Qt::AlignTop | Qt::AlignLeft,
-                         tr("Ch%1  %2/XDiv  %3/YDiv")
-                             .arg(QString::number(i + 1), number(c.xScale), number(c.yScale)));
-        ++rank;
+    QVector<ClipboardExport::LegendRow> legend;
+    for (int i = 0; i < d->numChannels; ++i) {
+        const Channel& c = d->channels[i];
+        if (c.enabled) {
+            legend.append({c.icon, tr("Ch%1  %2/XDiv  %3/YDiv")
+                                       .arg(QString::number(i + 1), number(c.xScale),
+                                            number(c.yScale))});
+        }
     }
-    painter.end();
-
-    QPixmap result(m_image.width(), m_image.height() + legend.height());
-    result.fill(background);
-    painter.begin(&result);
-    painter.drawImage(0, 0, m_image);
-    painter.drawPixmap(0, m_image.height(), legend);
-    painter.end();
-    QApplication::clipboard()->setPixmap(result, QClipboard::Clipboard);
+    if (legend.isEmpty())
+        return;
+    QApplication::clipboard()->setPixmap(
+        ClipboardExport::imageWithLegend(d->image, legend, palette().color(backgroundRole())),
+        QClipboard::Clipboard);
 }
 
 void View::on_copy_data()
@@ -622,47 +676,19 @@ void View::on_copy_data()
     QLocale::setDefault(QLocale::system());
 
     QVector<const Channel*> shown;
-    for (int i = 0; i < m_numChannels; ++i) {
-        if (m_channels[i].enabled)
-            shown.append(&m_channels[i]);
+    for (int i = 0; i < d->numChannels; ++i) {
+        if (d->channels[i].enabled)
+            shown.append(&d->channels[i]);
     }
-    // Without a channel no row could ever end the table.
-    if (shown.isEmpty())
-        return;
-
-    QString text;
-    for (const Channel* c : qAsConst(shown)) {
-        if (c->points.isEmpty())
-            return;
-        text += m_xAxisTitle + QLatin1Char('\t') + c->name + QLatin1Char('\t');
-    }
-    text += QLatin1Char('\n');
-
-    for (int row = 0;; ++row) {
-        bool last = false;
-        for (const Channel* c : qAsConst(shown)) {
-            if (row >= c->points.size()) {
-                last = true;
-                continue;
-            }
-            // The first x in single precision, as the exported times have always been relative
-            // to it.
-            const double x0 = double(float(c->points.constFirst().x()));
-            const QPointF& p = c->points.at(row);
-            text += locale.toString(p.x() - x0, 'f', 12) + QLatin1Char('\t')
-                    + locale.toString(p.y(), 'f', 12) + QLatin1Char('\t');
-        }
-        text += QLatin1Char('\n');
-        if (last)
-            break;
-    }
-    QApplication::clipboard()->setText(text, QClipboard::Clipboard);
+    const QString text = ClipboardExport::dataTable(shown, d->xAxisTitle, locale);
+    if (!text.isEmpty())
+        QApplication::clipboard()->setText(text, QClipboard::Clipboard);
 }
 
-void View::updateToolTip(int channel)
+void ViewPrivate::updateToolTip(int channel)
 {
-    const Channel& c = m_channels[channel];
-    m_channelButtons.at(channel)->setToolTip(QStringLiteral("%1 %2/XDiv  %3/YDiv")
+    const Channel& c = channels[channel];
+    channelButtons.at(channel)->setToolTip(QStringLiteral("%1 %2/XDiv  %3/YDiv")
                                                  .arg(c.name, number(c.xScale), number(c.yScale)));
 }
 

@@ -5,23 +5,18 @@
 #include <kes/qt/scope/channel.h>
 
 #include <QColor>
-#include <QLineF>
-#include <QImage>
 #include <QPixmap>
-#include <QPointF>
-#include <QPolygonF>
 #include <QRect>
 #include <QString>
-#include <QVector>
 #include <QWidget>
 
-#include <array>
+#include <memory>
 
-class QButtonGroup;
 class QPainter;
-class QPushButton;
 
 namespace kes::qt::scope {
+
+class ViewPrivate;
 
 /// An oscilloscope-style plot of up to sixteen channels of (x, y) samples.
 ///
@@ -48,10 +43,10 @@ public:
 
     /// Shows channels 0 to \a n - 1 (clamped to 0 to 16); hidden channels lose their points.
     void setNumChannels(int n);
-    int numChannels() const { return m_numChannels; }
+    int numChannels() const;
     /// -1 selects none.
     void setCurrentChannel(int channel);
-    int currentChannel() const { return m_currentChannel; }
+    int currentChannel() const;
 
     void setChannelEnabled(int channel, bool enable);
     void setChannelName(int channel, const QString& name);
@@ -73,15 +68,15 @@ public:
     /// a trigger holds at most 10,000 samples and drops further ones until its next trigger.
     void addPoint(int channel, double x, double y);
 
-    void setXAxisTitle(const QString& title) { m_xAxisTitle = title; }
-    QString xAxisTitle() const { return m_xAxisTitle; }
+    void setXAxisTitle(const QString& title);
+    QString xAxisTitle() const;
 
     /// Channel \a channel, or channel 0 for an index outside 0 to 15.
     const Channel& channel(int channel) const;
     /// The plot area in widget pixels, inclusive corners, as of the last refresh.
-    QRect plotRect() const { return m_plotRect; }
+    QRect plotRect() const;
     /// The pixel row of the value 0 at offset 0, as of the last refresh.
-    int yCentre() const { return m_yCentre; }
+    int yCentre() const;
     /// The picture the view shows.
     const QPixmap& pixmap() const;
 
@@ -124,32 +119,8 @@ private Q_SLOTS:
     void on_copy_data();
 
 private:
-    static bool isChannel(int channel) { return channel >= 0 && channel < maxChannels; }
-    void updateToolTip(int channel);
-    /// Draws the first \a count points of m_mapped, in pixels, in the channel's colour.
-    void drawMapped(const Channel& channel, QPainter* painter, int count);
-
-    std::array<Channel, maxChannels> m_channels;
-    int m_numChannels = 4;
-    QPolygonF m_offsetArrowShape;
-    QPolygonF m_triggerArrowShape;
-    // The picture is painted into an image, whose pixels the curves are written to directly;
-    // the pixmap is made from it only when asked for.
-    QImage m_image;
-    mutable QPixmap m_pixmap;
-    QRect m_plotRect;
-    int m_labelHeight = 0;
-    int m_yCentre = 0;
-    QString m_xAxisTitle;
-    int m_currentChannel = 0;
-    int m_dragMode = 1;
-    QPointF m_lastMousePos;
-    QVector<QColor> m_defaultColors;
-    QVector<QString> m_defaultNames;
-    QVector<QPushButton*> m_channelButtons;
-    QButtonGroup* m_channelButtonGroup = nullptr;
-    // Reused by every curve, so that a refresh allocates nothing once the sizes settle.
-    QVector<QPointF> m_mapped;        ///< the curve being drawn, in pixels
+    friend class ViewPrivate;
+    std::unique_ptr<ViewPrivate> const d;
 };
 
 } // namespace kes::qt::scope
