@@ -10,6 +10,22 @@ if(KES_SANITIZE)
     target_compile_options(kes_build_options INTERFACE ${_kes_san})
     target_link_options(kes_build_options INTERFACE ${_kes_san})
 endif()
+if(KES_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        message(FATAL_ERROR "KES_FUZZ needs clang (libFuzzer): configure with CMAKE_CXX_COMPILER=clang++")
+    endif()
+    # Coverage for libFuzzer in the library and the targets alike; the targets add the fuzzer's
+    # main when they link.
+    target_compile_options(kes_build_options INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(kes_build_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(KES_SANITIZE_THREAD)
+    # The tests that use threads, under ThreadSanitizer; scripts/test --thread builds it.
+    set(_kes_tsan -fsanitize=thread -fno-omit-frame-pointer)
+    target_compile_options(kes_build_options INTERFACE ${_kes_tsan})
+    target_link_options(kes_build_options INTERFACE ${_kes_tsan})
+endif()
 
 # kes_add_library(<target> <export name> SOURCES ... HEADERS ... [LIBS ...])
 # One shared library with its generated export header <kes/<dir>/<target>_export.h>.

@@ -1,0 +1,54 @@
+#include "fuzzapp.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace kes::fuzz {
+
+namespace {
+
+void quiet(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr, "Qt fatal: %s\n", qPrintable(message));
+        std::abort();
+    }
+}
+
+} // namespace
+
+void ensureApplication()
+{
+    if (QCoreApplication::instance())
+        return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(quiet);
+    static int argc = 1;
+    static char name[] = "kes_fuzz";
+    static char* argv[] = {name, nullptr};
+    new QApplication(argc, argv);
+    QLocale::setDefault(QLocale::c());
+}
+
+void require(bool condition, const char* what)
+{
+    if (condition)
+        return;
+    std::fprintf(stderr, "broken promise: %s\n", what);
+    std::abort();
+}
+
+QString text(const std::uint8_t* data, std::size_t size)
+{
+    return QString::fromUtf8(reinterpret_cast<const char*>(data), int(size));
+}
+
+QByteArray bytes(const std::uint8_t* data, std::size_t size)
+{
+    return QByteArray(reinterpret_cast<const char*>(data), int(size));
+}
+
+} // namespace kes::fuzz
