@@ -1,7 +1,9 @@
 #include "fuzzapp.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QLocale>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
@@ -25,6 +27,10 @@ void ensureApplication()
     if (QCoreApplication::instance())
         return;
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Settings the language manager writes go to a folder of the run's own.
+    static QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
+    qunsetenv("QTTRANSLATIONDIR");
     qInstallMessageHandler(quiet);
     static int argc = 1;
     static char name[] = "kes_fuzz";

@@ -109,6 +109,23 @@ private Q_SLOTS:
         QVERIFY(kes::qt::convert(region, colorConversion).isNull());
     }
 
+    // A caller's buffer may end right after the image's last pixel. Read as three bytes per pixel,
+    // one-byte pixels fit every row's stride but not the last row: what lies beyond reads as 0.
+    void readsNoFurtherThanTheLastPixel()
+    {
+        const std::size_t step = 12;
+        std::vector<std::uint8_t> memory(step + 4);
+        for (std::size_t i = 0; i < memory.size(); ++i)
+            memory[i] = std::uint8_t(i + 1);
+        const Image image(ImageInfo(4, 2, 1, 1, Rgb), memory.data(), step);
+        const QImage shown = kes::qt::convert(image, false);
+        QCOMPARE(shown.size(), QSize(4, 2));
+        QCOMPARE(shown.pixelColor(1, 0), QColor(4, 5, 6));
+        const QVector<QColor> lastRow{QColor(13, 14, 15), QColor(16, 0, 0), QColor(0, 0, 0), QColor(0, 0, 0)};
+        for (int x = 0; x < 4; ++x)
+            QCOMPARE(shown.pixelColor(x, 1), lastRow.at(x));
+    }
+
     void qtToCore_data()
     {
         QTest::addColumn<QImage::Format>("format");

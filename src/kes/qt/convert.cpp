@@ -3,9 +3,10 @@
 #include <kes/cv/convert.h>
 #include <kes/cv/pixels.h>
 
-
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <vector>
 
 namespace kes::qt {
 
@@ -43,14 +44,40 @@ constexpr int keepOrder[] = {0, 1, 2, kes::cv::pixels::fillChannel};
 constexpr int swapRedBlue[] = {2, 1, 0, kes::cv::pixels::fillChannel};
 constexpr int greyToAll[] = {0, 0, 0, kes::cv::pixels::fillChannel};
 
-QImage toQImage(const std::uint8_t* src, std::size_t step, int channels, int width, int height, const int* order)
+// Bytes of the region's last row that lie inside the image. A caller's buffer may end right after
+// the last pixel of the whole image, so where the display reads more bytes per pixel than the
+// image's own pixels have, it must stop there in that row.
+std::size_t lastRowBytes(const Image& image)
 {
-    QImage result(width, height, QImage::Format_RGB32);
+    const kes::core::Roi roi = image.roi();
+    const std::size_t start = std::size_t(roi.x) * image.pixelBytes();
+    const bool bottom = std::int64_t(roi.y) + image.info().height >= image.fullInfo().height;
+    const std::size_t end = bottom ? std::size_t(image.fullInfo().width) * image.pixelBytes() : image.step();
+    return end > start ? end - start : 0;
+}
+
+QImage toQImage(const Image& image, int channels, const int* order)
+{
+    const ImageInfo& info = image.info();
+    QImage result(info.width, info.height, QImage::Format_RGB32);
     if (result.isNull())
         return QImage();
-    if (!kes::cv::pixels::copy(src, step, channels, result.bits(), std::size_t(result.bytesPerLine()), 4, width,
-                               height, order))
+    const std::size_t row = std::size_t(info.width) * std::size_t(channels);
+    const std::size_t lastRow = lastRowBytes(image);
+    const int direct = row <= lastRow ? info.height : info.height - 1;
+    const auto bytesPerLine = std::size_t(result.bytesPerLine());
+    if (direct > 0
+        && !kes::cv::pixels::copy(image.constData(), image.step(), channels, result.bits(), bytesPerLine, 4,
+                                  info.width, direct, order))
         return QImage();
+    if (direct < info.height) {
+        // The missing bytes read as 0.
+        std::vector<std::uint8_t> padded(row, 0);
+        std::memcpy(padded.data(), image.constData() + image.step() * std::size_t(direct), lastRow);
+        if (!kes::cv::pixels::copy(padded.data(), row, channels, result.scanLine(direct), bytesPerLine, 4,
+                                   info.width, 1, order))
+            return QImage();
+    }
     return result;
 }
 
@@ -66,19 +93,18 @@ QImage convert(const Image& image, bool useColorConversion)
     if (info.format == kes::core::image::Bgra) {
         if (!rowsHold(image, 4))
             return QImage();
-        return toQImage(image.constData(), image.step(), 4, info.width, info.height, keepOrder);
+        return toQImage(image, 4, keepOrder);
     }
     if (useColorConversion) {
         const Image bgr = kes::cv::convert(image, kes::core::image::Bgr);
         if (bgr.isNull())
             return QImage();
-        return toQImage(bgr.constData(), bgr.step(), 3, bgr.info().width, bgr.info().height, keepOrder);
+        return toQImage(bgr, 3, keepOrder);
     }
     const int channels = displayChannels(info.format);
     if (!rowsHold(image, channels))
         return QImage();
-    return toQImage(image.constData(), image.step(), channels, info.width, info.height,
-                    channels == 1 ? greyToAll : swapRedBlue);
+    return toQImage(image, channels, channels == 1 ? greyToAll : swapRedBlue);
 }
 
 Image convert(const QImage& image)

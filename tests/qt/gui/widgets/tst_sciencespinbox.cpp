@@ -245,6 +245,29 @@ private Q_SLOTS:
         QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
     }
 
+    // Blanks around the number are ignored; the cursor the editor hands in stays inside its text.
+    void keepsTheCursorInTheText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("cursor");
+        QTest::newRow("a blank, cursor before it") << QStringLiteral(" ") << 0;
+        QTest::newRow("blanks around, cursor in the leading ones") << QStringLiteral("   12 ") << 1;
+        QTest::newRow("blanks around, cursor at the end") << QStringLiteral("   12 ") << 6;
+    }
+
+    void keepsTheCursorInTheText()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, cursor);
+        ScienceSpinBox box;
+        box.setLocale(english);
+        box.setRange(-100.0, 100.0);
+        QString edited = text;
+        int pos = cursor;
+        box.validate(edited, pos);
+        QVERIFY2(pos >= 0 && pos <= edited.size(), qPrintable(QString::number(pos)));
+    }
+
     void helperBound()
     {
         qint64 match = 0;

@@ -382,20 +382,27 @@ void ScienceSpinBox::fixup(QString& text) const
 
 QString ScienceSpinBox::stripped(const QString& text, int* pos) const
 {
+    // The cursor moves left by what is cut away before it, and stays inside what is left.
+    int cursor = pos ? *pos : 0;
     QString result = text;
     const QString special = specialValueText();
     if (special.isEmpty() || text != special) {
         const QString pre = prefix();
         const QString suf = suffix();
-        if (!pre.isEmpty() && result.startsWith(pre))
+        if (!pre.isEmpty() && result.startsWith(pre)) {
             result.remove(0, pre.size());
+            cursor -= std::min(cursor, int(pre.size()));
+        }
         if (!suf.isEmpty() && result.endsWith(suf))
             result.chop(suf.size());
     }
-    const int size = result.size();
+    int leading = 0;
+    while (leading < result.size() && result.at(leading).isSpace())
+        ++leading;
+    cursor -= std::min(cursor, leading);
     result = result.trimmed();
     if (pos)
-        *pos -= size - result.size();
+        *pos = std::clamp(cursor, 0, int(result.size()));
     return result;
 }
 
@@ -438,7 +445,9 @@ QVariant ScienceSpinBox::validateAndInterpret(QString& input, int& pos, QValidat
             offset = prefix().size();
     }
     const int inputPos = pos;
-    QString copy = stripped(input, &pos);
+    // The input itself is not changed here, so the caller's cursor stays where it is.
+    int strippedPos = pos;
+    QString copy = stripped(input, &strippedPos);
     while (offset < input.size() && input.at(offset).isSpace())
         ++offset;
 
