@@ -4,6 +4,7 @@
 #include <kes/qt/discreteapproximator/schematic/model.h>
 #include <kes/qt/discreteapproximator/schematic/posdisplay.h>
 
+#include <QCursor>
 #include <QGraphicsSceneMouseEvent>
 #include <QPainter>
 
