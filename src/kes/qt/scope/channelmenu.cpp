@@ -147,7 +147,7 @@ void ChannelMenu::on_enable_channel()
 {
     for (int i : targets()) {
         m_view->setChannelEnabled(i, true);
-        emit channelEnabled(i, true);
+        Q_EMIT channelEnabled(i, true);
     }
 }
 
@@ -155,7 +155,7 @@ void ChannelMenu::on_disable_channel()
 {
     for (int i : targets()) {
         m_view->setChannelEnabled(i, false);
-        emit channelEnabled(i, false);
+        Q_EMIT channelEnabled(i, false);
     }
 }
 
@@ -163,7 +163,7 @@ void ChannelMenu::on_xscale(int value)
 {
     for (int i : targets()) {
         m_view->setXScale(i, value);
-        emit xscaleChanged(i, value);
+        Q_EMIT xscaleChanged(i, value);
     }
 }
 
@@ -171,7 +171,7 @@ void ChannelMenu::on_yscale(int value)
 {
     for (int i : targets()) {
         m_view->setYScale(i, value * 0.1);
-        emit yscaleChanged(i, value * 0.1);
+        Q_EMIT yscaleChanged(i, value * 0.1);
     }
 }
 
@@ -183,7 +183,7 @@ void ChannelMenu::on_trigger(int trigger)
         m_view->setTrigger(i, Trigger_t(trigger));
         // A refused choice (it would close a cycle of followers) is not reported.
         if (m_view->channel(i).trigger == trigger)
-            emit triggerChanged(i, trigger);
+            Q_EMIT triggerChanged(i, trigger);
     }
 }
 
@@ -196,7 +196,7 @@ void ChannelMenu::on_color()
     if (!color.isValid() || !m_view)
         return;
     m_view->setColor(m_channel, color);
-    emit colorChanged(m_channel, color.rgb());
+    Q_EMIT colorChanged(m_channel, color.rgb());
 }
 
 } // namespace kes::qt::scope

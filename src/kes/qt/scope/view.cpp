@@ -651,11 +651,11 @@ void View::mouseMoveEvent(QMouseEvent* event)
     if (m_dragMode == 1) {
         const double offset = c.yOffset + delta;
         setYOffset(m_currentChannel, offset);
-        emit yOffsetChanged(m_currentChannel, offset);
+        Q_EMIT yOffsetChanged(m_currentChannel, offset);
     } else if (m_dragMode == 2) {
         const double level = c.triggerPosition + delta;
         setTriggerPosition(m_currentChannel, level);
-        emit triggerPositionChanged(m_currentChannel, level);
+        Q_EMIT triggerPositionChanged(m_currentChannel, level);
     }
 }
 
@@ -672,7 +672,7 @@ void View::resizeEvent(QResizeEvent* /*event*/)
 void View::on_enable_channel(int channel)
 {
     setChannelEnabled(channel, true);
-    emit channelEnabled(channel, true);
+    Q_EMIT channelEnabled(channel, true);
 }
 
 void View::on_channelButtonGroup_buttonClicked(int id)
