@@ -34,7 +34,7 @@ public Q_SLOTS:
     void updateColors(const kes::core::IntVector& ranges);
 
 private:
-    std::unique_ptr<ColorBoxPrivate> d;
+    std::unique_ptr<ColorBoxPrivate> const d;
 };
 
 } // namespace kes::qt::colorrangefinder

@@ -40,7 +40,7 @@ public Q_SLOTS:
     void translate();
 
 private:
-    std::unique_ptr<ContextMenuPrivate> d;
+    std::unique_ptr<ContextMenuPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

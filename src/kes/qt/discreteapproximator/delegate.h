@@ -33,7 +33,7 @@ public:
                               const QModelIndex& index) const override;
 
 private:
-    std::unique_ptr<DelegatePrivate> d;
+    std::unique_ptr<DelegatePrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

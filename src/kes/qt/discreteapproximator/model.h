@@ -121,7 +121,7 @@ Q_SIGNALS:
 private:
     bool isRow(int row) const { return row >= 0 && row < rowCount(); }
 
-    std::unique_ptr<ModelPrivate> d;
+    std::unique_ptr<ModelPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

@@ -32,7 +32,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    std::unique_ptr<TableViewPrivate> d;
+    std::unique_ptr<TableViewPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

@@ -72,7 +72,7 @@ Q_SIGNALS:
     void dataChanged();
 
 private:
-    std::unique_ptr<ViewPrivate> d;
+    std::unique_ptr<ViewPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

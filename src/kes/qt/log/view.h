@@ -37,7 +37,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    std::unique_ptr<ViewPrivate> d;
+    std::unique_ptr<ViewPrivate> const d;
 };
 
 } // namespace kes::qt::log

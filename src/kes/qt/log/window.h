@@ -43,7 +43,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    std::unique_ptr<WindowPrivate> d;
+    std::unique_ptr<WindowPrivate> const d;
 };
 
 } // namespace kes::qt::log

@@ -108,7 +108,7 @@ public Q_SLOTS:
 private:
     void loadMessageFiles(Language& language);
 
-    std::unique_ptr<ManagerPrivate> d;
+    std::unique_ptr<ManagerPrivate> const d;
 };
 
 } // namespace kes::qt::translation

@@ -28,7 +28,7 @@ public Q_SLOTS:
     void translate();
 
 private:
-    std::unique_ptr<MenuPrivate> d;
+    std::unique_ptr<MenuPrivate> const d;
 };
 
 } // namespace kes::qt::translation

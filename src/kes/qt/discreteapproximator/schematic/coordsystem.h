@@ -44,7 +44,7 @@ private:
     void updateLabelPos();
     void updateBoundingRect();
 
-    std::unique_ptr<CoordsystemPrivate> d;
+    std::unique_ptr<CoordsystemPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

@@ -29,7 +29,7 @@ public:
     QString labelText() const;
 
 private:
-    std::unique_ptr<CrossPrivate> d;
+    std::unique_ptr<CrossPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

@@ -22,7 +22,7 @@ public:
     Model* schematic() const;
 
 private:
-    std::unique_ptr<LinePrivate> d;
+    std::unique_ptr<LinePrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

@@ -109,7 +109,7 @@ private:
     void clearItems();
     void retire(Point* point);
 
-    std::unique_ptr<ModelPrivate> d;
+    std::unique_ptr<ModelPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

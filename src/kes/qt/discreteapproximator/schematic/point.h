@@ -48,7 +48,7 @@ private:
     double restingZ() const;
     void updatePosText();
 
-    std::unique_ptr<PointPrivate> d;
+    std::unique_ptr<PointPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

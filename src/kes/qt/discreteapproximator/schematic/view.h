@@ -37,7 +37,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    std::unique_ptr<ViewPrivate> d;
+    std::unique_ptr<ViewPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

@@ -27,7 +27,7 @@ public:
     virtual bool finish();
 
 private:
-    std::unique_ptr<PagePrivate> d;
+    std::unique_ptr<PagePrivate> const d;
 };
 
 } // namespace kes::qt::gui::option

@@ -25,7 +25,7 @@ public:
     void setLineEdit(QLineEdit* edit);
 
 private:
-    std::unique_ptr<LabeledHexSpinBoxImplPrivate> d;
+    std::unique_ptr<LabeledHexSpinBoxImplPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

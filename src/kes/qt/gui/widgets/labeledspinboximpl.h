@@ -26,7 +26,7 @@ public:
     void setLineEdit(QLineEdit* edit);
 
 private:
-    std::unique_ptr<LabeledSpinBoxImplPrivate> d;
+    std::unique_ptr<LabeledSpinBoxImplPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets
