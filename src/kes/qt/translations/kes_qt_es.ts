@@ -91,6 +91,13 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::gui::widgets::BalloonToolTip</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::log::Window</name>
     <message>
         <source>Log</source>
