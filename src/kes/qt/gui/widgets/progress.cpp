@@ -10,6 +10,8 @@
 #include <QVBoxLayout>
 #include <QVector>
 
+#include <algorithm>
+
 namespace kes::qt::gui::widgets {
 
 namespace {
@@ -71,7 +73,6 @@ Progress::Progress(QWidget* parent, bool showCancelButton, const QString& title)
     if (showCancelButton) {
         d->cancelButton = new QPushButton(this);
         d->cancelButton->setObjectName(QStringLiteral("cancel"));
-        d->cancelButton->setFixedWidth(80);
         connect(d->cancelButton, SIGNAL(clicked()), this, SLOT(on_cancel_clicked()));
         layout->addLayout(centred(d->cancelButton));
         layout->addStretch();
@@ -102,8 +103,11 @@ void Progress::on_cancel_clicked()
 
 void Progress::translate()
 {
-    if (d->cancelButton)
+    if (d->cancelButton) {
         d->cancelButton->setText(tr("Cancel"));
+        // 80 pixels, unless a translation needs more.
+        d->cancelButton->setFixedWidth(std::max(80, d->cancelButton->sizeHint().width()));
+    }
 }
 
 void Progress::showEvent(QShowEvent* event)
