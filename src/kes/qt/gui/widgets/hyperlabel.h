@@ -24,8 +24,6 @@ public:
 
     void setLink(const QString& link);
     QString link() const;
-    /// The text shown, as the anchor's text while there is a link.
-    void setText(const QString& text);
 
     /// The browser command of every label, looked up on the PATH and given the URL as its one
     /// argument; empty at first, which leaves the URL to the desktop's default handler.
@@ -35,6 +33,11 @@ public:
     /// "mailto:" URLs, and any URL when the browser command cannot be started, go to the
     /// desktop's default handler. \a parent is not used.
     static void openWebPage(const QString& url, QWidget* parent);
+
+public Q_SLOTS:
+    /// The text shown, as the anchor's text while there is a link. A slot, so that connections
+    /// made by name reach it rather than the label's own.
+    void setText(const QString& text);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
