@@ -7,6 +7,7 @@
 #include "page.h"
 #include "scopepage.h"
 #include "screenshots.h"
+#include "smallwidgetspage.h"
 #include "translationpage.h"
 
 #include <kes/core/log.h>
@@ -48,6 +49,7 @@ void addPages(MainWindow& window)
     window.addPage(new kes::gallery::CurveEditorPage);
     window.addPage(new kes::gallery::CameraPage);
     window.addPage(new kes::gallery::InputWidgetsPage);
+    window.addPage(new kes::gallery::SmallWidgetsPage);
 }
 
 // The log hub for the whole run; declared before the window, whose log panel shows it, so that it

@@ -461,6 +461,149 @@
     </message>
 </context>
 <context>
+    <name>kes::gallery::SmallWidgetsPage</name>
+    <message>
+        <source>Small widgets</source>
+        <translation>Kleine Widgets</translation>
+    </message>
+    <message>
+        <source>Messages, progress and helpers</source>
+        <translation>Meldungen, Fortschritt und Helfer</translation>
+    </message>
+    <message>
+        <source>Balloons fade in next to the control they talk about and fade out after ten seconds or on a click; hovering keeps them. The calibration shows a busy indicator whose Cancel stops it, and only a finished calibration ticks the read-only box.</source>
+        <translation>Sprechblasen blenden sich neben dem Element ein, um das es geht, und nach zehn Sekunden oder auf einen Klick wieder aus; solange die Maus darauf ruht, bleiben sie. Die Kalibrierung zeigt eine Fortschrittsanzeige, deren „Abbrechen“ sie beendet, und nur eine abgeschlossene Kalibrierung setzt das schreibgeschützte Häkchen.</translation>
+    </message>
+    <message>
+        <source>Balloon messages</source>
+        <translation>Sprechblasen</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Kritisch</translation>
+    </message>
+    <message>
+        <source>At the window&apos;s edge</source>
+        <translation>Am Fensterrand</translation>
+    </message>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Kamerakalibrierung</translation>
+    </message>
+    <message>
+        <source>Start calibration</source>
+        <translation>Kalibrierung starten</translation>
+    </message>
+    <message>
+        <source>Camera 2 calibrated</source>
+        <translation>Kamera 2 kalibriert</translation>
+    </message>
+    <message>
+        <source>Undistort the live image</source>
+        <translation>Livebild entzerren</translation>
+    </message>
+    <message>
+        <source>The first box is read-only: neither clicks nor the Space key change it, only the calibration does. The second one is a plain check box.</source>
+        <translation>Das erste Kästchen ist schreibgeschützt: Weder Klicks noch die Leertaste ändern es, nur die Kalibrierung. Das zweite ist ein gewöhnliches Kontrollkästchen.</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Dokumentation</translation>
+    </message>
+    <message>
+        <source>Calibration tutorial</source>
+        <translation>Anleitung zur Kalibrierung</translation>
+    </message>
+    <message>
+        <source>&amp;Part number:</source>
+        <translation>&amp;Teilenummer:</translation>
+    </message>
+    <message>
+        <source>Help on part numbers</source>
+        <translation>Hilfe zu Teilenummern</translation>
+    </message>
+    <message>
+        <source>Open the help</source>
+        <translation>Hilfe öffnen</translation>
+    </message>
+    <message>
+        <source>Spindle speed</source>
+        <translation>Spindeldrehzahl</translation>
+    </message>
+    <message>
+        <source>The reading takes the largest font that fits: drag the splitter handle.</source>
+        <translation>Die Anzeige nimmt die größte Schrift, die hineinpasst: Ziehen Sie den Teiler.</translation>
+    </message>
+    <message>
+        <source>Drag the handle on the left</source>
+        <translation>Ziehen Sie den Teiler links</translation>
+    </message>
+    <message>
+        <source>Calibration saved</source>
+        <translation>Kalibrierung gespeichert</translation>
+    </message>
+    <message>
+        <source>Camera 2 uses the new intrinsics from the next frame on.</source>
+        <translation>Kamera 2 verwendet ab dem nächsten Bild die neuen inneren Parameter.</translation>
+    </message>
+    <message>
+        <source>Exposure clipped</source>
+        <translation>Belichtung übersteuert</translation>
+    </message>
+    <message>
+        <source>12 % of the pixels are saturated. Lower the gain or the exposure time.</source>
+        <translation>12 % der Pixel sind gesättigt. Verringern Sie die Verstärkung oder die Belichtungszeit.</translation>
+    </message>
+    <message>
+        <source>Laser scanner offline</source>
+        <translation>Laserscanner nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>No scan from 192.168.0.41 for 3 s. Check the cable and the scanner&apos;s power supply.</source>
+        <translation>Seit 3 s kein Scan von 192.168.0.41. Prüfen Sie das Kabel und die Stromversorgung des Scanners.</translation>
+    </message>
+    <message>
+        <source>At the edge</source>
+        <translation>Am Rand</translation>
+    </message>
+    <message>
+        <source>This balloon asked to open above and to the right of the button&apos;s corner. Where the screen ends, it opens on the other side, its tip still on the corner.</source>
+        <translation>Diese Sprechblase wollte sich oberhalb und rechts der Ecke der Schaltfläche öffnen. Wo der Bildschirm endet, öffnet sie sich auf der anderen Seite, ihre Spitze bleibt auf der Ecke.</translation>
+    </message>
+    <message>
+        <source>Calibrating camera 2: image %1 of %2</source>
+        <translation>Kalibriere Kamera 2: Bild %1 von %2</translation>
+    </message>
+    <message>
+        <source>Camera 2 has not been calibrated yet.</source>
+        <translation>Kamera 2 ist noch nicht kalibriert.</translation>
+    </message>
+    <message>
+        <source>Calibration finished: mean reprojection error 0.21 px over %1 images.</source>
+        <translation>Kalibrierung abgeschlossen: mittlerer Rückprojektionsfehler 0,21 px über %1 Bilder.</translation>
+    </message>
+    <message>
+        <source>Calibration cancelled after %1 of %2 images; the previous calibration stays in use.</source>
+        <translation>Kalibrierung nach %1 von %2 Bildern abgebrochen; die bisherige Kalibrierung bleibt in Gebrauch.</translation>
+    </message>
+    <message>
+        <source>Unknown part number</source>
+        <translation>Unbekannte Teilenummer</translation>
+    </message>
+    <message>
+        <source>Part numbers read KES, four digits and a revision letter, e.g. KES-4711-B.</source>
+        <translation>Teilenummern bestehen aus KES, vier Ziffern und einem Revisionsbuchstaben, z. B. KES-4711-B.</translation>
+    </message>
+</context>
+<context>
     <name>kes::gallery::TranslationPage</name>
     <message>
         <source>Translation</source>

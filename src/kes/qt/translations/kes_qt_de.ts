@@ -91,6 +91,27 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::gui::widgets::BalloonToolTip</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::WebDialog</name>
+    <message>
+        <source>Web page</source>
+        <translation>Webseite</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::log::Window</name>
     <message>
         <source>Log</source>

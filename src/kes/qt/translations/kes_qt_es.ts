@@ -91,6 +91,27 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::gui::widgets::BalloonToolTip</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::WebDialog</name>
+    <message>
+        <source>Web page</source>
+        <translation>Página web</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::log::Window</name>
     <message>
         <source>Log</source>

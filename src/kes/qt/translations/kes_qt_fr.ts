@@ -91,6 +91,27 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::gui::widgets::BalloonToolTip</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::WebDialog</name>
+    <message>
+        <source>Web page</source>
+        <translation>Page web</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::log::Window</name>
     <message>
         <source>Log</source>
