@@ -124,7 +124,7 @@ private:
     void buildOutline();
     void setOpacity(double opacity);
 
-    std::unique_ptr<BalloonToolTipPrivate> d;
+    std::unique_ptr<BalloonToolTipPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

@@ -35,7 +35,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
 
 private:
-    std::unique_ptr<CheckBoxPrivate> d;
+    std::unique_ptr<CheckBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

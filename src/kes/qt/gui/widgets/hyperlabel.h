@@ -43,7 +43,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    std::unique_ptr<HyperLabelPrivate> d;
+    std::unique_ptr<HyperLabelPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

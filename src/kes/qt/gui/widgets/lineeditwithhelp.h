@@ -30,7 +30,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    std::unique_ptr<LineEditWithHelpPrivate> d;
+    std::unique_ptr<LineEditWithHelpPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

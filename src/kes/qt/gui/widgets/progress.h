@@ -40,7 +40,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    std::unique_ptr<ProgressPrivate> d;
+    std::unique_ptr<ProgressPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

@@ -31,7 +31,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    std::unique_ptr<ScaledLabelPrivate> d;
+    std::unique_ptr<ScaledLabelPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

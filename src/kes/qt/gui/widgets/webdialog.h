@@ -35,7 +35,7 @@ private Q_SLOTS:
     void on_webView_titleChanged(const QString& title);
 
 private:
-    std::unique_ptr<WebDialogPrivate> d;
+    std::unique_ptr<WebDialogPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets
