@@ -181,6 +181,11 @@ private Q_SLOTS:
         QCOMPARE(int(scene.points().size()), 5);
         // dots, grid (4 x 5) and the four lines, nothing left behind
         QCOMPARE(scene.items().size(), 5 + 20 + 4);
+        // New angles for as many beams move the dots accordingly.
+        QVERIFY(QLineF(scene.points()[0]->pos(), QPointF(0, -200)).length() < 1e-3);
+        scene.setData(scan(0, 180, 5.0f, {2, 2, 2, 2, 2}));
+        QVERIFY(QLineF(scene.points()[0]->pos(), QPointF(200, 0)).length() < 1e-3);
+        QVERIFY(QLineF(scene.points()[4]->pos(), QPointF(-200, 0)).length() < 1e-3);
     }
 
     void emptyScanKeepsAnglesAndRange()

@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace kes::qt::laserrangefinder {
 
@@ -54,6 +55,10 @@ public:
     float angleMax = 0.0f;
     bool angleMinValid = false; ///< whether the line has a finite geometry
     bool angleMaxValid = false;
+    /// cos and sin of each beam's angle, for this start angle and increment.
+    std::vector<std::pair<float, float>> directions;
+    float directionsStart = 0.0f;
+    float directionsIncrement = 0.0f;
 
     std::array<QGraphicsLineItem*, 4> lines() const { return {xAxis, yAxis, angleMinLine, angleMaxLine}; }
 };
@@ -128,13 +133,25 @@ void Scene::setData(const kes::core::LaserScanMessage& scan)
         d->colours.pop_back();
     }
 
+    // A scanner sends the same angles scan after scan: the beams' directions are worked out once.
+    if (anglesFinite
+        && (d->directions.size() != count || !(d->directionsStart == scan.startAngle)
+            || !(d->directionsIncrement == scan.angleIncrement))) {
+        d->directions.resize(count);
+        for (std::size_t i = 0; i < count; ++i) {
+            const float a = float(i) * scan.angleIncrement + scan.startAngle;
+            d->directions[i] = {std::cos(a), std::sin(a)};
+        }
+        d->directionsStart = scan.startAngle;
+        d->directionsIncrement = scan.angleIncrement;
+    }
+
     const std::size_t intensities = scan.intensities.size();
     for (std::size_t i = 0; i < count; ++i) {
         QGraphicsEllipseItem* dot = d->points[i];
-        const float a = float(i) * scan.angleIncrement + scan.startAngle;
         const float r = 100.0f * scan.ranges[i];
-        const float x = std::cos(a) * r;
-        const float y = std::sin(a) * r;
+        const float x = anglesFinite ? d->directions[i].first * r : 0.0f;
+        const float y = anglesFinite ? d->directions[i].second * r : 0.0f;
         // A NaN or infinite range (or angle) has no place on the grid: the dot waits, hidden.
         if (!anglesFinite || !std::isfinite(x) || !std::isfinite(y)) {
             if (dot->isVisible())
