@@ -2,6 +2,7 @@
 #include "camerapage.h"
 #include "curveeditorpage.h"
 #include "inputwidgetspage.h"
+#include "laserpage.h"
 #include "logpage.h"
 #include "mainwindow.h"
 #include "page.h"
@@ -48,6 +49,7 @@ void addPages(MainWindow& window)
     window.addPage(new kes::gallery::ScopePage);
     window.addPage(new kes::gallery::CurveEditorPage);
     window.addPage(new kes::gallery::CameraPage);
+    window.addPage(new kes::gallery::LaserPage);
     window.addPage(new kes::gallery::InputWidgetsPage);
     window.addPage(new kes::gallery::SmallWidgetsPage);
 }

@@ -87,6 +87,10 @@
         <source>Ranges: %1    Blobs found: %2</source>
         <translation>Bereiche: %1    Gefundene Flecken: %2</translation>
     </message>
+    <message>
+        <source>Save &amp;frame…</source>
+        <translation>Bild &amp;speichern…</translation>
+    </message>
 </context>
 <context>
     <name>kes::gallery::CurveEdit</name>
@@ -178,6 +182,41 @@
     <message>
         <source> per second</source>
         <translation> pro Sekunde</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::ImageSaving</name>
+    <message>
+        <source>There is no picture to save yet.</source>
+        <translation>Es gibt noch kein Bild zum Speichern.</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>PNG-Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>JPEG-Bild (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>TIFF image (*.tif *.tiff)</source>
+        <translation>TIFF-Bild (*.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>BMP image (*.bmp)</source>
+        <translation>BMP-Bild (*.bmp)</translation>
+    </message>
+    <message>
+        <source>Save as image</source>
+        <translation>Als Bild speichern</translation>
+    </message>
+    <message>
+        <source>Could not save %1: %2</source>
+        <translation>%1 konnte nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
     </message>
 </context>
 <context>
@@ -284,6 +323,53 @@
     <message>
         <source>Takes effect when the gallery starts next. The Languages menu switches at once, and the gallery starts in the language chosen last.</source>
         <translation>Gilt beim nächsten Start der Galerie. Das Sprachmenü schaltet sofort um, und die Galerie startet in der zuletzt gewählten Sprache.</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::LaserPage</name>
+    <message>
+        <source>Laser scanner</source>
+        <translation>Laserscanner</translation>
+    </message>
+    <message>
+        <source>A laser scanner in a room</source>
+        <translation>Ein Laserscanner in einem Raum</translation>
+    </message>
+    <message>
+        <source>A simulated scanner sweeps 270° in half-degree steps 25 times a second, forward pointing up. A person walks about; reflector strips on the walls answer with a strong echo (yellow), beams through the open door find nothing, and now and then a beam is lost. Click to zoom in (left) or out (right) where you click, or use the wheel; the middle button fits the view. The red sector marks an analysis window.</source>
+        <translation>Ein simulierter Scanner tastet 25-mal in der Sekunde 270° in Schritten von einem halben Grad ab, vorwärts zeigt nach oben. Eine Person geht umher; Reflektorstreifen an den Wänden antworten mit einem starken Echo (gelb), Strahlen durch die offene Tür treffen nichts, und hin und wieder geht ein Strahl verloren. Klicken Sie zum Vergrößern (links) oder Verkleinern (rechts) an der geklickten Stelle, oder benutzen Sie das Mausrad; die mittlere Taste zeigt alles. Der rote Sektor markiert ein Auswertefenster.</translation>
+    </message>
+    <message>
+        <source>Analysis sector</source>
+        <translation>Auswertesektor</translation>
+    </message>
+    <message>
+        <source>&amp;Direction:</source>
+        <translation>&amp;Richtung:</translation>
+    </message>
+    <message>
+        <source>&amp;Opening:</source>
+        <translation>Ö&amp;ffnung:</translation>
+    </message>
+    <message>
+        <source>Di&amp;stance:</source>
+        <translation>&amp;Entfernung:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>Ein&amp;passen</translation>
+    </message>
+    <message>
+        <source>Save as &amp;image…</source>
+        <translation>Als &amp;Bild speichern…</translation>
+    </message>
+    <message>
+        <source>Echoes in the sector: %1</source>
+        <translation>Echos im Sektor: %1</translation>
+    </message>
+    <message>
+        <source>%1 beams per scan, %2 scans a second; %3 beams without a range in the last scan</source>
+        <translation>%1 Strahlen pro Scan, %2 Scans pro Sekunde; %3 Strahlen ohne Entfernung im letzten Scan</translation>
     </message>
 </context>
 <context>

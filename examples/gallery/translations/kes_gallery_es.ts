@@ -87,6 +87,10 @@
         <source>Ranges: %1    Blobs found: %2</source>
         <translation>Rangos: %1    Manchas encontradas: %2</translation>
     </message>
+    <message>
+        <source>Save &amp;frame…</source>
+        <translation>Guardar &amp;fotograma…</translation>
+    </message>
 </context>
 <context>
     <name>kes::gallery::CurveEdit</name>
@@ -178,6 +182,41 @@
     <message>
         <source> per second</source>
         <translation> por segundo</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::ImageSaving</name>
+    <message>
+        <source>There is no picture to save yet.</source>
+        <translation>Todavía no hay ninguna imagen que guardar.</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>Imagen PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>Imagen JPEG (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>TIFF image (*.tif *.tiff)</source>
+        <translation>Imagen TIFF (*.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>BMP image (*.bmp)</source>
+        <translation>Imagen BMP (*.bmp)</translation>
+    </message>
+    <message>
+        <source>Save as image</source>
+        <translation>Guardar como imagen</translation>
+    </message>
+    <message>
+        <source>Could not save %1: %2</source>
+        <translation>No se pudo guardar %1: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 guardado</translation>
     </message>
 </context>
 <context>
@@ -284,6 +323,53 @@
     <message>
         <source>Takes effect when the gallery starts next. The Languages menu switches at once, and the gallery starts in the language chosen last.</source>
         <translation>Se aplica la próxima vez que se inicie la galería. El menú de idiomas cambia al instante, y la galería se inicia en el último idioma elegido.</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::LaserPage</name>
+    <message>
+        <source>Laser scanner</source>
+        <translation>Escáner láser</translation>
+    </message>
+    <message>
+        <source>A laser scanner in a room</source>
+        <translation>Un escáner láser en una sala</translation>
+    </message>
+    <message>
+        <source>A simulated scanner sweeps 270° in half-degree steps 25 times a second, forward pointing up. A person walks about; reflector strips on the walls answer with a strong echo (yellow), beams through the open door find nothing, and now and then a beam is lost. Click to zoom in (left) or out (right) where you click, or use the wheel; the middle button fits the view. The red sector marks an analysis window.</source>
+        <translation>Un escáner simulado barre 270° en pasos de medio grado 25 veces por segundo, con el frente hacia arriba. Una persona camina por la sala; las tiras reflectantes de las paredes devuelven un eco fuerte (amarillo), los haces que pasan por la puerta abierta no encuentran nada y de vez en cuando se pierde un haz. Haga clic para ampliar (izquierdo) o reducir (derecho) donde hace clic, o use la rueda; el botón central ajusta la vista. El sector rojo marca una ventana de análisis.</translation>
+    </message>
+    <message>
+        <source>Analysis sector</source>
+        <translation>Sector de análisis</translation>
+    </message>
+    <message>
+        <source>&amp;Direction:</source>
+        <translation>&amp;Dirección:</translation>
+    </message>
+    <message>
+        <source>&amp;Opening:</source>
+        <translation>&amp;Apertura:</translation>
+    </message>
+    <message>
+        <source>Di&amp;stance:</source>
+        <translation>Di&amp;stancia:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>A&amp;justar</translation>
+    </message>
+    <message>
+        <source>Save as &amp;image…</source>
+        <translation>Guardar como &amp;imagen…</translation>
+    </message>
+    <message>
+        <source>Echoes in the sector: %1</source>
+        <translation>Ecos en el sector: %1</translation>
+    </message>
+    <message>
+        <source>%1 beams per scan, %2 scans a second; %3 beams without a range in the last scan</source>
+        <translation>%1 haces por barrido, %2 barridos por segundo; %3 haces sin distancia en el último barrido</translation>
     </message>
 </context>
 <context>

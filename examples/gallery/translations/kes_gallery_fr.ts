@@ -87,6 +87,10 @@
         <source>Ranges: %1    Blobs found: %2</source>
         <translation>Plages : %1    Taches trouvées : %2</translation>
     </message>
+    <message>
+        <source>Save &amp;frame…</source>
+        <translation>Enregistrer l&apos;&amp;image…</translation>
+    </message>
 </context>
 <context>
     <name>kes::gallery::CurveEdit</name>
@@ -178,6 +182,41 @@
     <message>
         <source> per second</source>
         <translation> par seconde</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::ImageSaving</name>
+    <message>
+        <source>There is no picture to save yet.</source>
+        <translation>Il n&apos;y a pas encore d&apos;image à enregistrer.</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>Image PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>Image JPEG (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>TIFF image (*.tif *.tiff)</source>
+        <translation>Image TIFF (*.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>BMP image (*.bmp)</source>
+        <translation>Image BMP (*.bmp)</translation>
+    </message>
+    <message>
+        <source>Save as image</source>
+        <translation>Enregistrer comme image</translation>
+    </message>
+    <message>
+        <source>Could not save %1: %2</source>
+        <translation>Impossible d&apos;enregistrer %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
     </message>
 </context>
 <context>
@@ -284,6 +323,53 @@
     <message>
         <source>Takes effect when the gallery starts next. The Languages menu switches at once, and the gallery starts in the language chosen last.</source>
         <translation>Prend effet au prochain démarrage de la galerie. Le menu des langues change immédiatement, et la galerie démarre dans la dernière langue choisie.</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::LaserPage</name>
+    <message>
+        <source>Laser scanner</source>
+        <translation>Scanner laser</translation>
+    </message>
+    <message>
+        <source>A laser scanner in a room</source>
+        <translation>Un scanner laser dans une pièce</translation>
+    </message>
+    <message>
+        <source>A simulated scanner sweeps 270° in half-degree steps 25 times a second, forward pointing up. A person walks about; reflector strips on the walls answer with a strong echo (yellow), beams through the open door find nothing, and now and then a beam is lost. Click to zoom in (left) or out (right) where you click, or use the wheel; the middle button fits the view. The red sector marks an analysis window.</source>
+        <translation>Un scanner simulé balaie 270° par pas d&apos;un demi-degré 25 fois par seconde, l&apos;avant vers le haut. Une personne se déplace&#xa0;; des bandes réfléchissantes sur les murs renvoient un écho fort (en jaune), les faisceaux qui passent par la porte ouverte ne rencontrent rien, et de temps en temps un faisceau se perd. Cliquez pour agrandir (gauche) ou réduire (droite) à l&apos;endroit cliqué, ou utilisez la molette&#xa0;; le bouton du milieu ajuste la vue. Le secteur rouge marque une fenêtre d&apos;analyse.</translation>
+    </message>
+    <message>
+        <source>Analysis sector</source>
+        <translation>Secteur d&apos;analyse</translation>
+    </message>
+    <message>
+        <source>&amp;Direction:</source>
+        <translation>&amp;Direction&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Opening:</source>
+        <translation>&amp;Ouverture&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Di&amp;stance:</source>
+        <translation>Di&amp;stance&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>A&amp;juster</translation>
+    </message>
+    <message>
+        <source>Save as &amp;image…</source>
+        <translation>Enregistrer comme &amp;image…</translation>
+    </message>
+    <message>
+        <source>Echoes in the sector: %1</source>
+        <translation>Échos dans le secteur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 beams per scan, %2 scans a second; %3 beams without a range in the last scan</source>
+        <translation>%1 faisceaux par balayage, %2 balayages par seconde&#xa0;; %3 faisceaux sans distance dans le dernier balayage</translation>
     </message>
 </context>
 <context>
