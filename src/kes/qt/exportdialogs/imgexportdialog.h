@@ -49,7 +49,7 @@ public Q_SLOTS:
     void on_buttons_accepted();
 
 private:
-    std::unique_ptr<ImgExportDialogPrivate> d;
+    std::unique_ptr<ImgExportDialogPrivate> const d;
 };
 
 } // namespace kes::qt::exportdialogs

@@ -4,8 +4,14 @@
 
 namespace kes::qt::graphics {
 
+// Empty for now; it keeps the class's size when the view gains state.
+struct SimpleViewPrivate
+{
+};
+
 SimpleView::SimpleView(QWidget* parent)
     : QGraphicsView(parent)
+    , d(std::make_unique<SimpleViewPrivate>())
 {
 }
 

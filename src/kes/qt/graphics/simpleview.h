@@ -5,7 +5,11 @@
 
 #include <QGraphicsView>
 
+#include <memory>
+
 namespace kes::qt::graphics {
+
+struct SimpleViewPrivate;
 
 /// A graphics view zoomed by clicks: the left button doubles the scale, the right one halves it,
 /// and either then centres the view on the scene point under the mouse.
@@ -19,6 +23,9 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    std::unique_ptr<SimpleViewPrivate> const d;
 };
 
 } // namespace kes::qt::graphics

@@ -42,7 +42,7 @@ public:
     QGraphicsEllipseItem* sector() const;
 
 private:
-    std::unique_ptr<AnalysisScenePrivate> d;
+    std::unique_ptr<AnalysisScenePrivate> const d;
 };
 
 } // namespace kes::qt::laserrangefinder

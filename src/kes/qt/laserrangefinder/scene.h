@@ -62,7 +62,7 @@ public:
     float angleMax() const;
 
 private:
-    std::unique_ptr<ScenePrivate> d;
+    std::unique_ptr<ScenePrivate> const d;
 };
 
 } // namespace kes::qt::laserrangefinder

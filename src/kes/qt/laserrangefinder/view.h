@@ -42,7 +42,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    std::unique_ptr<ViewPrivate> d;
+    std::unique_ptr<ViewPrivate> const d;
 };
 
 } // namespace kes::qt::laserrangefinder
