@@ -1,5 +1,6 @@
 #include "camerapage.h"
 
+#include "imagesaving.h"
 #include "style.h"
 
 #include <kes/core/image/overlay.h>
@@ -11,9 +12,11 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
 #include <QRadialGradient>
 #include <QRandomGenerator>
 #include <QScrollArea>
+#include <QHBoxLayout>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -206,7 +209,19 @@ CameraPage::CameraPage(QWidget* parent)
     layout->addSpacing(6);
     layout->addWidget(m_description);
     layout->addSpacing(10);
+    m_saveFrame = new QPushButton(this);
+    m_saveFrame->setObjectName(QStringLiteral("saveFrame"));
+    m_saved = new QLabel(this);
+    muteText(m_saved);
+    m_saved->setWordWrap(true);
+    // A row of its own: beside the status line it would widen the page in longer languages.
+    auto* saveRow = new QHBoxLayout;
+    saveRow->setSpacing(12);
+    saveRow->addWidget(m_saveFrame);
+    saveRow->addWidget(m_saved, 1);
     layout->addWidget(m_status);
+    layout->addSpacing(6);
+    layout->addLayout(saveRow);
     layout->addSpacing(8);
 
     m_finder = new kes::qt::colorrangefinder::Dialog(this);
@@ -257,6 +272,7 @@ void CameraPage::retranslate()
            "ranges; the page then finds every blob within them and marks it. \"Show result\" shows "
            "the page's segmentation, \"Freeze image\" holds the picture, and the buttons copy the "
            "ranges to the clipboard and paste them back."));
+    m_saveFrame->setText(tr("Save &frame\u2026"));
     showStatus();
 }
 
@@ -309,6 +325,16 @@ void CameraPage::nextFrame()
 void CameraPage::on_finder_valuesChanged()
 {
     showStatus();
+}
+
+void CameraPage::on_saveFrame_clicked()
+{
+    // The picture the view shows: the camera frame or the segmentation, held while frozen.
+    if (!m_view)
+        return;
+    const QString result = saveImage(this, kes::qt::convert(m_view->image(), true), QStringLiteral("camera-frame"));
+    if (!result.isEmpty())
+        m_saved->setText(result);
 }
 
 void CameraPage::showStatus()

@@ -12,6 +12,7 @@
 #include <vector>
 
 class QLabel;
+class QPushButton;
 class QTimer;
 
 namespace kes::qt::colorrangefinder {
@@ -58,6 +59,7 @@ public:
 private Q_SLOTS:
     void nextFrame();
     void on_finder_valuesChanged();
+    void on_saveFrame_clicked();
 
 private:
     void showStatus();
@@ -68,6 +70,8 @@ private:
     QLabel* m_heading = nullptr;
     QLabel* m_description = nullptr;
     QLabel* m_status = nullptr;
+    QPushButton* m_saveFrame = nullptr;
+    QLabel* m_saved = nullptr;
     QTimer* m_timer = nullptr;
     QElapsedTimer m_clock;
     std::unique_ptr<SyntheticCamera> m_camera;

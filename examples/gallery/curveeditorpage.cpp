@@ -65,6 +65,7 @@ CurveEditorPage::CurveEditorPage(QWidget* parent)
     // Wide enough to be dragged with some precision in the smallest window.
     m_slider->setMinimumWidth(160);
     m_operatingPoint = new QLabel(this);
+    m_operatingPoint->setWordWrap(true);
     auto* sliderRow = new QHBoxLayout;
     sliderRow->setSpacing(10);
     sliderRow->addWidget(m_sliderLabel);
@@ -80,6 +81,11 @@ CurveEditorPage::CurveEditorPage(QWidget* parent)
     scaleFont(m_pointsHeading, 1.0, true);
     m_changes = new QLabel(this);
     muteText(m_changes);
+    // The column is as wide as the list; longer languages wrap instead of widening the page.
+    m_pointsHeading->setWordWrap(true);
+    m_changes->setWordWrap(true);
+    m_pointsHeading->setFixedWidth(190);
+    m_changes->setFixedWidth(190);
     m_points = new QPlainTextEdit(this);
     m_points->setObjectName(QStringLiteral("pointList"));
     m_points->setReadOnly(true);

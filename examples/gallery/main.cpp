@@ -2,11 +2,13 @@
 #include "camerapage.h"
 #include "curveeditorpage.h"
 #include "inputwidgetspage.h"
+#include "laserpage.h"
 #include "logpage.h"
 #include "mainwindow.h"
 #include "page.h"
 #include "scopepage.h"
 #include "screenshots.h"
+#include "smallwidgetspage.h"
 #include "translationpage.h"
 
 #include <kes/core/log.h>
@@ -47,7 +49,9 @@ void addPages(MainWindow& window)
     window.addPage(new kes::gallery::ScopePage);
     window.addPage(new kes::gallery::CurveEditorPage);
     window.addPage(new kes::gallery::CameraPage);
+    window.addPage(new kes::gallery::LaserPage);
     window.addPage(new kes::gallery::InputWidgetsPage);
+    window.addPage(new kes::gallery::SmallWidgetsPage);
 }
 
 // The log hub for the whole run; declared before the window, whose log panel shows it, so that it

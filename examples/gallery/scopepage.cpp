@@ -1,5 +1,7 @@
 #include "scopepage.h"
 
+#include "flowlayout.h"
+
 #include "gallerysettings.h"
 #include "style.h"
 
@@ -85,17 +87,28 @@ ScopePage::ScopePage(QWidget* parent)
     m_signal = new QLabel(this);
     m_signal->setTextInteractionFlags(Qt::TextSelectableByMouse);
     muteText(m_signalLabel);
-    auto* controls = new QHBoxLayout;
-    controls->setSpacing(8);
-    controls->addWidget(m_channelsLabel);
-    controls->addWidget(m_channels);
-    controls->addSpacing(16);
-    controls->addWidget(m_levelLabel);
-    controls->addWidget(m_level);
-    controls->addSpacing(16);
-    controls->addWidget(m_signalLabel);
-    controls->addWidget(m_signal, 1);
-    layout->addLayout(controls);
+    // Each label with its control, the groups flowing onto a second row where a language's
+    // longer labels need it.
+    auto* controls = new QWidget(this);
+    auto* flow = new FlowLayout(controls);
+    flow->setContentsMargins(0, 0, 0, 0);
+    flow->setHorizontalSpacing(24);
+    flow->setVerticalSpacing(6);
+    const auto group = [&](QWidget* label, QWidget* control) {
+        auto* pair = new QWidget(controls);
+        auto* row = new QHBoxLayout(pair);
+        row->setContentsMargins(0, 0, 0, 0);
+        row->setSpacing(8);
+        label->setParent(pair);
+        control->setParent(pair);
+        row->addWidget(label);
+        row->addWidget(control);
+        flow->addWidget(pair);
+    };
+    group(m_channelsLabel, m_channels);
+    group(m_levelLabel, m_level);
+    group(m_signalLabel, m_signal);
+    layout->addWidget(controls);
     layout->addSpacing(10);
 
     m_view = new View(this);

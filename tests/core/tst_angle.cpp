@@ -30,7 +30,7 @@ class TestAngle : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void mapsIntoHalfOpenRange_data()
     {
         QTest::addColumn<float>("degrees");

@@ -54,7 +54,7 @@ class TestLog : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void cleanup() { Log::singleton().setReceiver({}); }
 
     void messageGoesToReceiverElseToStandardError_data()

@@ -86,7 +86,7 @@ class TestVector : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void copyTakenBeforeEditNeverChanges_data()
     {
         QTest::addColumn<QVector<int>>("initial");

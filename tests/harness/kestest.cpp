@@ -36,6 +36,7 @@ bool isPlatformNoise(const QString& message)
         "This plugin does not support grabbing the keyboard",
         "This plugin does not support grabbing the mouse",
         "This plugin does not support setting window opacity",
+        "This plugin does not support setting window masks",
     };
     for (const char* text : noise) {
         if (message.startsWith(QLatin1String(text)))

@@ -87,6 +87,10 @@
         <source>Ranges: %1    Blobs found: %2</source>
         <translation>Bereiche: %1    Gefundene Flecken: %2</translation>
     </message>
+    <message>
+        <source>Save &amp;frame…</source>
+        <translation>Bild &amp;speichern…</translation>
+    </message>
 </context>
 <context>
     <name>kes::gallery::CurveEdit</name>
@@ -178,6 +182,41 @@
     <message>
         <source> per second</source>
         <translation> pro Sekunde</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::ImageSaving</name>
+    <message>
+        <source>There is no picture to save yet.</source>
+        <translation>Es gibt noch kein Bild zum Speichern.</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>PNG-Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>JPEG-Bild (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>TIFF image (*.tif *.tiff)</source>
+        <translation>TIFF-Bild (*.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>BMP image (*.bmp)</source>
+        <translation>BMP-Bild (*.bmp)</translation>
+    </message>
+    <message>
+        <source>Save as image</source>
+        <translation>Als Bild speichern</translation>
+    </message>
+    <message>
+        <source>Could not save %1: %2</source>
+        <translation>%1 konnte nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
     </message>
 </context>
 <context>
@@ -284,6 +323,53 @@
     <message>
         <source>Takes effect when the gallery starts next. The Languages menu switches at once, and the gallery starts in the language chosen last.</source>
         <translation>Gilt beim nächsten Start der Galerie. Das Sprachmenü schaltet sofort um, und die Galerie startet in der zuletzt gewählten Sprache.</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::LaserPage</name>
+    <message>
+        <source>Laser scanner</source>
+        <translation>Laserscanner</translation>
+    </message>
+    <message>
+        <source>A laser scanner in a room</source>
+        <translation>Ein Laserscanner in einem Raum</translation>
+    </message>
+    <message>
+        <source>A simulated scanner sweeps 270° in half-degree steps 25 times a second, forward pointing up. A person walks about; reflector strips on the walls answer with a strong echo (yellow), beams through the open door find nothing, and now and then a beam is lost. Click to zoom in (left) or out (right) where you click, or use the wheel; the middle button fits the view. The red sector marks an analysis window.</source>
+        <translation>Ein simulierter Scanner tastet 25-mal in der Sekunde 270° in Schritten von einem halben Grad ab, vorwärts zeigt nach oben. Eine Person geht umher; Reflektorstreifen an den Wänden antworten mit einem starken Echo (gelb), Strahlen durch die offene Tür treffen nichts, und hin und wieder geht ein Strahl verloren. Klicken Sie zum Vergrößern (links) oder Verkleinern (rechts) an der geklickten Stelle, oder benutzen Sie das Mausrad; die mittlere Taste zeigt alles. Der rote Sektor markiert ein Auswertefenster.</translation>
+    </message>
+    <message>
+        <source>Analysis sector</source>
+        <translation>Auswertesektor</translation>
+    </message>
+    <message>
+        <source>&amp;Direction:</source>
+        <translation>&amp;Richtung:</translation>
+    </message>
+    <message>
+        <source>&amp;Opening:</source>
+        <translation>Ö&amp;ffnung:</translation>
+    </message>
+    <message>
+        <source>Di&amp;stance:</source>
+        <translation>&amp;Entfernung:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>Ein&amp;passen</translation>
+    </message>
+    <message>
+        <source>Save as &amp;image…</source>
+        <translation>Als &amp;Bild speichern…</translation>
+    </message>
+    <message>
+        <source>Echoes in the sector: %1</source>
+        <translation>Echos im Sektor: %1</translation>
+    </message>
+    <message>
+        <source>%1 beams per scan, %2 scans a second; %3 beams without a range in the last scan</source>
+        <translation>%1 Strahlen pro Scan, %2 Scans pro Sekunde; %3 Strahlen ohne Entfernung im letzten Scan</translation>
     </message>
 </context>
 <context>
@@ -458,6 +544,149 @@
     <message>
         <source>none yet</source>
         <translation>noch keines</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::SmallWidgetsPage</name>
+    <message>
+        <source>Small widgets</source>
+        <translation>Kleine Widgets</translation>
+    </message>
+    <message>
+        <source>Messages, progress and helpers</source>
+        <translation>Meldungen, Fortschritt und Helfer</translation>
+    </message>
+    <message>
+        <source>Balloons fade in next to the control they talk about and fade out after ten seconds or on a click; hovering keeps them. The calibration shows a busy indicator whose Cancel stops it, and only a finished calibration ticks the read-only box.</source>
+        <translation>Sprechblasen blenden sich neben dem Element ein, um das es geht, und nach zehn Sekunden oder auf einen Klick wieder aus; solange die Maus darauf ruht, bleiben sie. Die Kalibrierung zeigt eine Fortschrittsanzeige, deren „Abbrechen“ sie beendet, und nur eine abgeschlossene Kalibrierung setzt das schreibgeschützte Häkchen.</translation>
+    </message>
+    <message>
+        <source>Balloon messages</source>
+        <translation>Sprechblasen</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Kritisch</translation>
+    </message>
+    <message>
+        <source>At the window&apos;s edge</source>
+        <translation>Am Fensterrand</translation>
+    </message>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Kamerakalibrierung</translation>
+    </message>
+    <message>
+        <source>Start calibration</source>
+        <translation>Kalibrierung starten</translation>
+    </message>
+    <message>
+        <source>Camera 2 calibrated</source>
+        <translation>Kamera 2 kalibriert</translation>
+    </message>
+    <message>
+        <source>Undistort the live image</source>
+        <translation>Livebild entzerren</translation>
+    </message>
+    <message>
+        <source>The first box is read-only: neither clicks nor the Space key change it, only the calibration does. The second one is a plain check box.</source>
+        <translation>Das erste Kästchen ist schreibgeschützt: Weder Klicks noch die Leertaste ändern es, nur die Kalibrierung. Das zweite ist ein gewöhnliches Kontrollkästchen.</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Dokumentation</translation>
+    </message>
+    <message>
+        <source>Calibration tutorial</source>
+        <translation>Anleitung zur Kalibrierung</translation>
+    </message>
+    <message>
+        <source>&amp;Part number:</source>
+        <translation>&amp;Teilenummer:</translation>
+    </message>
+    <message>
+        <source>Help on part numbers</source>
+        <translation>Hilfe zu Teilenummern</translation>
+    </message>
+    <message>
+        <source>Open the help</source>
+        <translation>Hilfe öffnen</translation>
+    </message>
+    <message>
+        <source>Spindle speed</source>
+        <translation>Spindeldrehzahl</translation>
+    </message>
+    <message>
+        <source>The reading takes the largest font that fits: drag the splitter handle.</source>
+        <translation>Die Anzeige nimmt die größte Schrift, die hineinpasst: Ziehen Sie den Teiler.</translation>
+    </message>
+    <message>
+        <source>Drag the handle on the left</source>
+        <translation>Ziehen Sie den Teiler links</translation>
+    </message>
+    <message>
+        <source>Calibration saved</source>
+        <translation>Kalibrierung gespeichert</translation>
+    </message>
+    <message>
+        <source>Camera 2 uses the new intrinsics from the next frame on.</source>
+        <translation>Kamera 2 verwendet ab dem nächsten Bild die neuen inneren Parameter.</translation>
+    </message>
+    <message>
+        <source>Exposure clipped</source>
+        <translation>Belichtung übersteuert</translation>
+    </message>
+    <message>
+        <source>12 % of the pixels are saturated. Lower the gain or the exposure time.</source>
+        <translation>12 % der Pixel sind gesättigt. Verringern Sie die Verstärkung oder die Belichtungszeit.</translation>
+    </message>
+    <message>
+        <source>Laser scanner offline</source>
+        <translation>Laserscanner nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>No scan from 192.168.0.41 for 3 s. Check the cable and the scanner&apos;s power supply.</source>
+        <translation>Seit 3 s kein Scan von 192.168.0.41. Prüfen Sie das Kabel und die Stromversorgung des Scanners.</translation>
+    </message>
+    <message>
+        <source>At the edge</source>
+        <translation>Am Rand</translation>
+    </message>
+    <message>
+        <source>This balloon asked to open above and to the right of the button&apos;s corner. Where the screen ends, it opens on the other side, its tip still on the corner.</source>
+        <translation>Diese Sprechblase wollte sich oberhalb und rechts der Ecke der Schaltfläche öffnen. Wo der Bildschirm endet, öffnet sie sich auf der anderen Seite, ihre Spitze bleibt auf der Ecke.</translation>
+    </message>
+    <message>
+        <source>Calibrating camera 2: image %1 of %2</source>
+        <translation>Kalibriere Kamera 2: Bild %1 von %2</translation>
+    </message>
+    <message>
+        <source>Camera 2 has not been calibrated yet.</source>
+        <translation>Kamera 2 ist noch nicht kalibriert.</translation>
+    </message>
+    <message>
+        <source>Calibration finished: mean reprojection error 0.21 px over %1 images.</source>
+        <translation>Kalibrierung abgeschlossen: mittlerer Rückprojektionsfehler 0,21 px über %1 Bilder.</translation>
+    </message>
+    <message>
+        <source>Calibration cancelled after %1 of %2 images; the previous calibration stays in use.</source>
+        <translation>Kalibrierung nach %1 von %2 Bildern abgebrochen; die bisherige Kalibrierung bleibt in Gebrauch.</translation>
+    </message>
+    <message>
+        <source>Unknown part number</source>
+        <translation>Unbekannte Teilenummer</translation>
+    </message>
+    <message>
+        <source>Part numbers read KES, four digits and a revision letter, e.g. KES-4711-B.</source>
+        <translation>Teilenummern bestehen aus KES, vier Ziffern und einem Revisionsbuchstaben, z. B. KES-4711-B.</translation>
     </message>
 </context>
 <context>

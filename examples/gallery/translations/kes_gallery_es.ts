@@ -87,6 +87,10 @@
         <source>Ranges: %1    Blobs found: %2</source>
         <translation>Rangos: %1    Manchas encontradas: %2</translation>
     </message>
+    <message>
+        <source>Save &amp;frame…</source>
+        <translation>Guardar &amp;fotograma…</translation>
+    </message>
 </context>
 <context>
     <name>kes::gallery::CurveEdit</name>
@@ -178,6 +182,41 @@
     <message>
         <source> per second</source>
         <translation> por segundo</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::ImageSaving</name>
+    <message>
+        <source>There is no picture to save yet.</source>
+        <translation>Todavía no hay ninguna imagen que guardar.</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>Imagen PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>Imagen JPEG (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>TIFF image (*.tif *.tiff)</source>
+        <translation>Imagen TIFF (*.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>BMP image (*.bmp)</source>
+        <translation>Imagen BMP (*.bmp)</translation>
+    </message>
+    <message>
+        <source>Save as image</source>
+        <translation>Guardar como imagen</translation>
+    </message>
+    <message>
+        <source>Could not save %1: %2</source>
+        <translation>No se pudo guardar %1: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 guardado</translation>
     </message>
 </context>
 <context>
@@ -284,6 +323,53 @@
     <message>
         <source>Takes effect when the gallery starts next. The Languages menu switches at once, and the gallery starts in the language chosen last.</source>
         <translation>Se aplica la próxima vez que se inicie la galería. El menú de idiomas cambia al instante, y la galería se inicia en el último idioma elegido.</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::LaserPage</name>
+    <message>
+        <source>Laser scanner</source>
+        <translation>Escáner láser</translation>
+    </message>
+    <message>
+        <source>A laser scanner in a room</source>
+        <translation>Un escáner láser en una sala</translation>
+    </message>
+    <message>
+        <source>A simulated scanner sweeps 270° in half-degree steps 25 times a second, forward pointing up. A person walks about; reflector strips on the walls answer with a strong echo (yellow), beams through the open door find nothing, and now and then a beam is lost. Click to zoom in (left) or out (right) where you click, or use the wheel; the middle button fits the view. The red sector marks an analysis window.</source>
+        <translation>Un escáner simulado barre 270° en pasos de medio grado 25 veces por segundo, con el frente hacia arriba. Una persona camina por la sala; las tiras reflectantes de las paredes devuelven un eco fuerte (amarillo), los haces que pasan por la puerta abierta no encuentran nada y de vez en cuando se pierde un haz. Haga clic para ampliar (izquierdo) o reducir (derecho) donde hace clic, o use la rueda; el botón central ajusta la vista. El sector rojo marca una ventana de análisis.</translation>
+    </message>
+    <message>
+        <source>Analysis sector</source>
+        <translation>Sector de análisis</translation>
+    </message>
+    <message>
+        <source>&amp;Direction:</source>
+        <translation>&amp;Dirección:</translation>
+    </message>
+    <message>
+        <source>&amp;Opening:</source>
+        <translation>&amp;Apertura:</translation>
+    </message>
+    <message>
+        <source>Di&amp;stance:</source>
+        <translation>Di&amp;stancia:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>A&amp;justar</translation>
+    </message>
+    <message>
+        <source>Save as &amp;image…</source>
+        <translation>Guardar como &amp;imagen…</translation>
+    </message>
+    <message>
+        <source>Echoes in the sector: %1</source>
+        <translation>Ecos en el sector: %1</translation>
+    </message>
+    <message>
+        <source>%1 beams per scan, %2 scans a second; %3 beams without a range in the last scan</source>
+        <translation>%1 haces por barrido, %2 barridos por segundo; %3 haces sin distancia en el último barrido</translation>
     </message>
 </context>
 <context>
@@ -458,6 +544,149 @@
     <message>
         <source>none yet</source>
         <translation>ninguna todavía</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::SmallWidgetsPage</name>
+    <message>
+        <source>Small widgets</source>
+        <translation>Widgets pequeños</translation>
+    </message>
+    <message>
+        <source>Messages, progress and helpers</source>
+        <translation>Mensajes, progreso y ayudas</translation>
+    </message>
+    <message>
+        <source>Balloons fade in next to the control they talk about and fade out after ten seconds or on a click; hovering keeps them. The calibration shows a busy indicator whose Cancel stops it, and only a finished calibration ticks the read-only box.</source>
+        <translation>Los globos aparecen junto al control al que se refieren y se desvanecen tras diez segundos o con un clic; mientras el puntero está encima, permanecen. La calibración muestra un indicador de actividad cuyo botón Cancelar la detiene, y solo una calibración terminada marca la casilla de solo lectura.</translation>
+    </message>
+    <message>
+        <source>Balloon messages</source>
+        <translation>Globos de mensaje</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Crítico</translation>
+    </message>
+    <message>
+        <source>At the window&apos;s edge</source>
+        <translation>En el borde de la ventana</translation>
+    </message>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Calibración de la cámara</translation>
+    </message>
+    <message>
+        <source>Start calibration</source>
+        <translation>Iniciar la calibración</translation>
+    </message>
+    <message>
+        <source>Camera 2 calibrated</source>
+        <translation>Cámara 2 calibrada</translation>
+    </message>
+    <message>
+        <source>Undistort the live image</source>
+        <translation>Corregir la distorsión</translation>
+    </message>
+    <message>
+        <source>The first box is read-only: neither clicks nor the Space key change it, only the calibration does. The second one is a plain check box.</source>
+        <translation>La primera casilla es de solo lectura: ni los clics ni la barra espaciadora la cambian, solo la calibración. La segunda es una casilla normal.</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentación</translation>
+    </message>
+    <message>
+        <source>Calibration tutorial</source>
+        <translation>Tutorial de calibración</translation>
+    </message>
+    <message>
+        <source>&amp;Part number:</source>
+        <translation>Número de &amp;pieza:</translation>
+    </message>
+    <message>
+        <source>Help on part numbers</source>
+        <translation>Ayuda sobre los números de pieza</translation>
+    </message>
+    <message>
+        <source>Open the help</source>
+        <translation>Abrir la ayuda</translation>
+    </message>
+    <message>
+        <source>Spindle speed</source>
+        <translation>Velocidad del husillo</translation>
+    </message>
+    <message>
+        <source>The reading takes the largest font that fits: drag the splitter handle.</source>
+        <translation>La lectura toma la fuente más grande que cabe: arrastre el divisor.</translation>
+    </message>
+    <message>
+        <source>Drag the handle on the left</source>
+        <translation>Arrastre el divisor a la izquierda</translation>
+    </message>
+    <message>
+        <source>Calibration saved</source>
+        <translation>Calibración guardada</translation>
+    </message>
+    <message>
+        <source>Camera 2 uses the new intrinsics from the next frame on.</source>
+        <translation>La cámara 2 usa los nuevos parámetros intrínsecos a partir de la siguiente imagen.</translation>
+    </message>
+    <message>
+        <source>Exposure clipped</source>
+        <translation>Exposición saturada</translation>
+    </message>
+    <message>
+        <source>12 % of the pixels are saturated. Lower the gain or the exposure time.</source>
+        <translation>El 12 % de los píxeles está saturado. Reduzca la ganancia o el tiempo de exposición.</translation>
+    </message>
+    <message>
+        <source>Laser scanner offline</source>
+        <translation>Escáner láser desconectado</translation>
+    </message>
+    <message>
+        <source>No scan from 192.168.0.41 for 3 s. Check the cable and the scanner&apos;s power supply.</source>
+        <translation>Ningún barrido de 192.168.0.41 desde hace 3 s. Compruebe el cable y la alimentación del escáner.</translation>
+    </message>
+    <message>
+        <source>At the edge</source>
+        <translation>En el borde</translation>
+    </message>
+    <message>
+        <source>This balloon asked to open above and to the right of the button&apos;s corner. Where the screen ends, it opens on the other side, its tip still on the corner.</source>
+        <translation>Este globo pidió abrirse encima y a la derecha de la esquina del botón. Donde termina la pantalla, se abre al otro lado, con la punta aún en la esquina.</translation>
+    </message>
+    <message>
+        <source>Calibrating camera 2: image %1 of %2</source>
+        <translation>Calibrando cámara 2: imagen %1/%2</translation>
+    </message>
+    <message>
+        <source>Camera 2 has not been calibrated yet.</source>
+        <translation>La cámara 2 aún no está calibrada.</translation>
+    </message>
+    <message>
+        <source>Calibration finished: mean reprojection error 0.21 px over %1 images.</source>
+        <translation>Calibración terminada: error medio de reproyección de 0,21 px en %1 imágenes.</translation>
+    </message>
+    <message>
+        <source>Calibration cancelled after %1 of %2 images; the previous calibration stays in use.</source>
+        <translation>Calibración cancelada tras %1 de %2 imágenes; la calibración anterior sigue en uso.</translation>
+    </message>
+    <message>
+        <source>Unknown part number</source>
+        <translation>Número de pieza desconocido</translation>
+    </message>
+    <message>
+        <source>Part numbers read KES, four digits and a revision letter, e.g. KES-4711-B.</source>
+        <translation>Los números de pieza constan de KES, cuatro cifras y una letra de revisión, p. ej. KES-4711-B.</translation>
     </message>
 </context>
 <context>

@@ -87,6 +87,10 @@
         <source>Ranges: %1    Blobs found: %2</source>
         <translation>Plages : %1    Taches trouvées : %2</translation>
     </message>
+    <message>
+        <source>Save &amp;frame…</source>
+        <translation>Enregistrer l&apos;&amp;image…</translation>
+    </message>
 </context>
 <context>
     <name>kes::gallery::CurveEdit</name>
@@ -178,6 +182,41 @@
     <message>
         <source> per second</source>
         <translation> par seconde</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::ImageSaving</name>
+    <message>
+        <source>There is no picture to save yet.</source>
+        <translation>Il n&apos;y a pas encore d&apos;image à enregistrer.</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>Image PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>Image JPEG (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>TIFF image (*.tif *.tiff)</source>
+        <translation>Image TIFF (*.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>BMP image (*.bmp)</source>
+        <translation>Image BMP (*.bmp)</translation>
+    </message>
+    <message>
+        <source>Save as image</source>
+        <translation>Enregistrer comme image</translation>
+    </message>
+    <message>
+        <source>Could not save %1: %2</source>
+        <translation>Impossible d&apos;enregistrer %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
     </message>
 </context>
 <context>
@@ -284,6 +323,53 @@
     <message>
         <source>Takes effect when the gallery starts next. The Languages menu switches at once, and the gallery starts in the language chosen last.</source>
         <translation>Prend effet au prochain démarrage de la galerie. Le menu des langues change immédiatement, et la galerie démarre dans la dernière langue choisie.</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::LaserPage</name>
+    <message>
+        <source>Laser scanner</source>
+        <translation>Scanner laser</translation>
+    </message>
+    <message>
+        <source>A laser scanner in a room</source>
+        <translation>Un scanner laser dans une pièce</translation>
+    </message>
+    <message>
+        <source>A simulated scanner sweeps 270° in half-degree steps 25 times a second, forward pointing up. A person walks about; reflector strips on the walls answer with a strong echo (yellow), beams through the open door find nothing, and now and then a beam is lost. Click to zoom in (left) or out (right) where you click, or use the wheel; the middle button fits the view. The red sector marks an analysis window.</source>
+        <translation>Un scanner simulé balaie 270° par pas d&apos;un demi-degré 25 fois par seconde, l&apos;avant vers le haut. Une personne se déplace&#xa0;; des bandes réfléchissantes sur les murs renvoient un écho fort (en jaune), les faisceaux qui passent par la porte ouverte ne rencontrent rien, et de temps en temps un faisceau se perd. Cliquez pour agrandir (gauche) ou réduire (droite) à l&apos;endroit cliqué, ou utilisez la molette&#xa0;; le bouton du milieu ajuste la vue. Le secteur rouge marque une fenêtre d&apos;analyse.</translation>
+    </message>
+    <message>
+        <source>Analysis sector</source>
+        <translation>Secteur d&apos;analyse</translation>
+    </message>
+    <message>
+        <source>&amp;Direction:</source>
+        <translation>&amp;Direction&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Opening:</source>
+        <translation>&amp;Ouverture&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Di&amp;stance:</source>
+        <translation>Di&amp;stance&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>A&amp;juster</translation>
+    </message>
+    <message>
+        <source>Save as &amp;image…</source>
+        <translation>Enregistrer comme &amp;image…</translation>
+    </message>
+    <message>
+        <source>Echoes in the sector: %1</source>
+        <translation>Échos dans le secteur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 beams per scan, %2 scans a second; %3 beams without a range in the last scan</source>
+        <translation>%1 faisceaux par balayage, %2 balayages par seconde&#xa0;; %3 faisceaux sans distance dans le dernier balayage</translation>
     </message>
 </context>
 <context>
@@ -458,6 +544,149 @@
     <message>
         <source>none yet</source>
         <translation>aucun pour l’instant</translation>
+    </message>
+</context>
+<context>
+    <name>kes::gallery::SmallWidgetsPage</name>
+    <message>
+        <source>Small widgets</source>
+        <translation>Petits widgets</translation>
+    </message>
+    <message>
+        <source>Messages, progress and helpers</source>
+        <translation>Messages, progression et aides</translation>
+    </message>
+    <message>
+        <source>Balloons fade in next to the control they talk about and fade out after ten seconds or on a click; hovering keeps them. The calibration shows a busy indicator whose Cancel stops it, and only a finished calibration ticks the read-only box.</source>
+        <translation>Les bulles apparaissent en fondu à côté de l’élément qu’elles concernent et disparaissent après dix secondes ou sur un clic ; tant que la souris les survole, elles restent. L’étalonnage affiche un indicateur d’activité dont le bouton Annuler l’arrête, et seul un étalonnage terminé coche la case en lecture seule.</translation>
+    </message>
+    <message>
+        <source>Balloon messages</source>
+        <translation>Bulles de message</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Critique</translation>
+    </message>
+    <message>
+        <source>At the window&apos;s edge</source>
+        <translation>Au bord de la fenêtre</translation>
+    </message>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Étalonnage de la caméra</translation>
+    </message>
+    <message>
+        <source>Start calibration</source>
+        <translation>Lancer l’étalonnage</translation>
+    </message>
+    <message>
+        <source>Camera 2 calibrated</source>
+        <translation>Caméra 2 étalonnée</translation>
+    </message>
+    <message>
+        <source>Undistort the live image</source>
+        <translation>Corriger la distorsion</translation>
+    </message>
+    <message>
+        <source>The first box is read-only: neither clicks nor the Space key change it, only the calibration does. The second one is a plain check box.</source>
+        <translation>La première case est en lecture seule : ni les clics ni la barre d’espace ne la changent, seul l’étalonnage le fait. La seconde est une case à cocher ordinaire.</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentation</translation>
+    </message>
+    <message>
+        <source>Calibration tutorial</source>
+        <translation>Tutoriel d’étalonnage</translation>
+    </message>
+    <message>
+        <source>&amp;Part number:</source>
+        <translation>Référence de &amp;pièce :</translation>
+    </message>
+    <message>
+        <source>Help on part numbers</source>
+        <translation>Aide sur les références de pièce</translation>
+    </message>
+    <message>
+        <source>Open the help</source>
+        <translation>Ouvrir l’aide</translation>
+    </message>
+    <message>
+        <source>Spindle speed</source>
+        <translation>Vitesse de la broche</translation>
+    </message>
+    <message>
+        <source>The reading takes the largest font that fits: drag the splitter handle.</source>
+        <translation>L’affichage prend la plus grande police qui tient : faites glisser la poignée du séparateur.</translation>
+    </message>
+    <message>
+        <source>Drag the handle on the left</source>
+        <translation>Faites glisser la poignée à gauche</translation>
+    </message>
+    <message>
+        <source>Calibration saved</source>
+        <translation>Étalonnage enregistré</translation>
+    </message>
+    <message>
+        <source>Camera 2 uses the new intrinsics from the next frame on.</source>
+        <translation>La caméra 2 utilise les nouveaux paramètres intrinsèques dès l’image suivante.</translation>
+    </message>
+    <message>
+        <source>Exposure clipped</source>
+        <translation>Exposition saturée</translation>
+    </message>
+    <message>
+        <source>12 % of the pixels are saturated. Lower the gain or the exposure time.</source>
+        <translation>12 % des pixels sont saturés. Baissez le gain ou le temps d’exposition.</translation>
+    </message>
+    <message>
+        <source>Laser scanner offline</source>
+        <translation>Scanner laser hors ligne</translation>
+    </message>
+    <message>
+        <source>No scan from 192.168.0.41 for 3 s. Check the cable and the scanner&apos;s power supply.</source>
+        <translation>Aucun balayage de 192.168.0.41 depuis 3 s. Vérifiez le câble et l’alimentation du scanner.</translation>
+    </message>
+    <message>
+        <source>At the edge</source>
+        <translation>Au bord</translation>
+    </message>
+    <message>
+        <source>This balloon asked to open above and to the right of the button&apos;s corner. Where the screen ends, it opens on the other side, its tip still on the corner.</source>
+        <translation>Cette bulle a demandé à s’ouvrir au-dessus et à droite du coin du bouton. Là où l’écran s’arrête, elle s’ouvre de l’autre côté, sa pointe toujours sur le coin.</translation>
+    </message>
+    <message>
+        <source>Calibrating camera 2: image %1 of %2</source>
+        <translation>Étalonnage caméra 2 : image %1/%2</translation>
+    </message>
+    <message>
+        <source>Camera 2 has not been calibrated yet.</source>
+        <translation>La caméra 2 n’est pas encore étalonnée.</translation>
+    </message>
+    <message>
+        <source>Calibration finished: mean reprojection error 0.21 px over %1 images.</source>
+        <translation>Étalonnage terminé : erreur de reprojection moyenne de 0,21 px sur %1 images.</translation>
+    </message>
+    <message>
+        <source>Calibration cancelled after %1 of %2 images; the previous calibration stays in use.</source>
+        <translation>Étalonnage annulé après %1 images sur %2 ; l’étalonnage précédent reste en vigueur.</translation>
+    </message>
+    <message>
+        <source>Unknown part number</source>
+        <translation>Référence de pièce inconnue</translation>
+    </message>
+    <message>
+        <source>Part numbers read KES, four digits and a revision letter, e.g. KES-4711-B.</source>
+        <translation>Une référence se compose de KES, de quatre chiffres et d’une lettre de révision, p. ex. KES-4711-B.</translation>
     </message>
 </context>
 <context>

@@ -52,7 +52,7 @@ protected Q_SLOTS:
     virtual void on_menu_triggered(QAction* action);
 
 private:
-    std::unique_ptr<FileHistoryPrivate> d;
+    std::unique_ptr<FileHistoryPrivate> const d;
 };
 
 } // namespace kes::qt

@@ -32,7 +32,7 @@ protected Q_SLOTS:
     void on_menu_triggered(QAction* action) override;
 
 private:
-    std::unique_ptr<FileHistory2Private> d;
+    std::unique_ptr<FileHistory2Private> const d;
 };
 
 } // namespace kes::qt

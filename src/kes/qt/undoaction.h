@@ -49,7 +49,7 @@ public Q_SLOTS:
     void translate();
 
 private:
-    std::unique_ptr<UndoActionPrivate> d;
+    std::unique_ptr<UndoActionPrivate> const d;
 };
 
 } // namespace kes::qt

@@ -31,7 +31,7 @@ class TestImage : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void rowsArePaddedToWholeWords_data()
     {
         QTest::addColumn<ImageInfo>("info");

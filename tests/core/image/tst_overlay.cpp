@@ -25,7 +25,7 @@ class TestOverlay : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void settersReplaceOneFieldAndSpareEarlierCopies()
     {
         Image image(ImageInfo(2, 2, 1, 1, Grey));

@@ -30,7 +30,7 @@ class TestVariant : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void converts_data()
     {
         QTest::addColumn<Variant>("variant");

@@ -43,8 +43,14 @@ QPixmap swatch(int hMin, int width, int sMin, int height, int value8)
 
 } // namespace
 
+// Empty for now; it keeps the class's size when the box gains state.
+struct ColorBoxPrivate
+{
+};
+
 ColorBox::ColorBox(QWidget* parent)
     : QListWidget(parent)
+    , d(std::make_unique<ColorBoxPrivate>())
 {
     setIconSize(QSize(150, 130));
     setFixedWidth(180);

@@ -7,7 +7,11 @@
 #include <QListWidget>
 #include <QPixmap>
 
+#include <memory>
+
 namespace kes::qt::colorrangefinder {
+
+struct ColorBoxPrivate;
 
 /// Up to three labelled swatches of a hue, saturation and value range: hue across, saturation
 /// down, one swatch each at the lowest, middle and highest value.
@@ -28,6 +32,9 @@ public Q_SLOTS:
     /// hue minimum above the maximum wraps over 0. Anything but six values with hues within 0 to
     /// 360 and the others within 0 to 255 leaves the list empty.
     void updateColors(const kes::core::IntVector& ranges);
+
+private:
+    std::unique_ptr<ColorBoxPrivate> const d;
 };
 
 } // namespace kes::qt::colorrangefinder

@@ -53,7 +53,7 @@ Q_SIGNALS:
     void valuesChanged();
 
 private:
-    std::unique_ptr<DialogPrivate> d;
+    std::unique_ptr<DialogPrivate> const d;
 };
 
 } // namespace kes::qt::colorrangefinder

@@ -44,7 +44,7 @@ Q_SIGNALS:
     void editingFinished();
 
 private:
-    std::unique_ptr<SpinBoxGroupPrivate> d;
+    std::unique_ptr<SpinBoxGroupPrivate> const d;
 };
 
 } // namespace kes::qt::colorrangefinder

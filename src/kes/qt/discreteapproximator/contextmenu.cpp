@@ -8,30 +8,48 @@
 
 namespace kes::qt::discreteapproximator {
 
+struct ContextMenuPrivate
+{
+    int row = -1;
+    Model* model = nullptr;
+    // Created by init(); the row entries only for a row.
+    QAction* insertBefore = nullptr;
+    QAction* insertAfter = nullptr;
+    QAction* remove = nullptr;
+    QAction* import = nullptr;
+    QAction* exportAction = nullptr;
+};
+
 ContextMenu::ContextMenu(int row, Model* model, QWidget* parent)
     : QMenu(parent)
-    , m_row(row)
-    , m_model(model)
+    , d(std::make_unique<ContextMenuPrivate>())
 {
+    d->row = row;
+    d->model = model;
     connect(&kes::qt::translation::Manager::singleton(), SIGNAL(languageChanged()), this,
             SLOT(translate()));
 }
 
 ContextMenu::~ContextMenu() = default;
 
+int ContextMenu::row() const
+{
+    return d->row;
+}
+
 void ContextMenu::init()
 {
-    if (m_row >= 0) {
-        m_insertBefore = addAction(QString(), this, SLOT(on_insertPointBefore()));
-        m_insertAfter = addAction(QString(), this, SLOT(on_insertPointAfter()));
-        m_remove = addAction(QString(), this, SLOT(on_removePoint()));
-        m_remove->setEnabled(m_model->rowCount() != 1);
+    if (d->row >= 0) {
+        d->insertBefore = addAction(QString(), this, SLOT(on_insertPointBefore()));
+        d->insertAfter = addAction(QString(), this, SLOT(on_insertPointAfter()));
+        d->remove = addAction(QString(), this, SLOT(on_removePoint()));
+        d->remove->setEnabled(d->model->rowCount() != 1);
         addSeparator();
     }
-    m_import = addAction(QString(), this, SLOT(on_importFromClipboard()));
-    m_import->setEnabled(!QGuiApplication::clipboard()->text().isEmpty());
-    m_export = addAction(QString(), this, SLOT(on_exportToClipboard()));
-    if (QAction* help = m_model->helpAction()) {
+    d->import = addAction(QString(), this, SLOT(on_importFromClipboard()));
+    d->import->setEnabled(!QGuiApplication::clipboard()->text().isEmpty());
+    d->exportAction = addAction(QString(), this, SLOT(on_exportToClipboard()));
+    if (QAction* help = d->model->helpAction()) {
         addSeparator();
         addAction(help);
     }
@@ -40,39 +58,39 @@ void ContextMenu::init()
 
 void ContextMenu::on_insertPointBefore()
 {
-    m_model->insertPointBefore(m_row);
+    d->model->insertPointBefore(d->row);
 }
 
 void ContextMenu::on_insertPointAfter()
 {
-    m_model->insertPointAfter(m_row);
+    d->model->insertPointAfter(d->row);
 }
 
 void ContextMenu::on_removePoint()
 {
-    m_model->removePoint(m_row);
+    d->model->removePoint(d->row);
 }
 
 void ContextMenu::on_importFromClipboard()
 {
-    m_model->fromString(QGuiApplication::clipboard()->text());
+    d->model->fromString(QGuiApplication::clipboard()->text());
 }
 
 void ContextMenu::on_exportToClipboard()
 {
-    QGuiApplication::clipboard()->setText(m_model->toString());
+    QGuiApplication::clipboard()->setText(d->model->toString());
 }
 
 void ContextMenu::translate()
 {
-    if (m_insertBefore) {
-        m_insertBefore->setText(tr("Insert point before"));
-        m_insertAfter->setText(tr("Insert point after"));
-        m_remove->setText(tr("Remove point"));
+    if (d->insertBefore) {
+        d->insertBefore->setText(tr("Insert point before"));
+        d->insertAfter->setText(tr("Insert point after"));
+        d->remove->setText(tr("Remove point"));
     }
-    if (m_import) {
-        m_import->setText(tr("Import from clipboard"));
-        m_export->setText(tr("Export to clipboard"));
+    if (d->import) {
+        d->import->setText(tr("Import from clipboard"));
+        d->exportAction->setText(tr("Export to clipboard"));
     }
 }
 

@@ -5,9 +5,12 @@
 
 #include <QMenu>
 
+#include <memory>
+
 namespace kes::qt::discreteapproximator {
 
 class Model;
+struct ContextMenuPrivate;
 
 /// The right-click menu of the table and the graph: insert before or after the point of the
 /// menu's row, remove it, and exchange the whole list with the clipboard. Built on the stack for
@@ -26,7 +29,7 @@ public:
     /// clipboard" while the clipboard holds no text; the model's help action, if any, comes last.
     void init();
 
-    int row() const { return m_row; }
+    int row() const;
 
 public Q_SLOTS:
     void on_insertPointBefore();
@@ -37,13 +40,7 @@ public Q_SLOTS:
     void translate();
 
 private:
-    int m_row;
-    Model* m_model;
-    QAction* m_insertBefore = nullptr;
-    QAction* m_insertAfter = nullptr;
-    QAction* m_remove = nullptr;
-    QAction* m_import = nullptr;
-    QAction* m_export = nullptr;
+    std::unique_ptr<ContextMenuPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

@@ -7,11 +7,19 @@
 
 namespace kes::qt::discreteapproximator {
 
+struct DelegatePrivate
+{
+    Model* model = nullptr;
+    // Deliberately never attached to an editor: any text may be typed, the model judges it.
+    QDoubleValidator* validator = nullptr;
+};
+
 Delegate::Delegate(Model* model, QObject* parent)
     : QItemDelegate(parent)
-    , m_model(model)
-    , m_validator(new QDoubleValidator(this))
+    , d(std::make_unique<DelegatePrivate>())
 {
+    d->model = model;
+    d->validator = new QDoubleValidator(this);
 }
 
 Delegate::~Delegate() = default;
@@ -26,9 +34,9 @@ void Delegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
     auto* lineEdit = qobject_cast<QLineEdit*>(editor);
     const int row = index.row();
-    if (!lineEdit || row < 0 || row >= m_model->rowCount())
+    if (!lineEdit || row < 0 || row >= d->model->rowCount())
         return;
-    const kes::core::PointF& p = m_model->points()[std::size_t(row)];
+    const kes::core::PointF& p = d->model->points()[std::size_t(row)];
     lineEdit->setText(QString::number(index.column() == 0 ? p.x : p.y, 'g', 6));
 }
 

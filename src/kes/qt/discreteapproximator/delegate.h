@@ -5,11 +5,12 @@
 
 #include <QItemDelegate>
 
-class QDoubleValidator;
+#include <memory>
 
 namespace kes::qt::discreteapproximator {
 
 class Model;
+struct DelegatePrivate;
 
 /// Edits a point coordinate as free text in a line edit: the model's validation decides, so a
 /// refused value simply leaves the cell as it was. A comma is taken for a decimal point.
@@ -32,9 +33,7 @@ public:
                               const QModelIndex& index) const override;
 
 private:
-    Model* m_model;
-    // Deliberately never attached to an editor: any text may be typed, the model judges it.
-    QDoubleValidator* m_validator;
+    std::unique_ptr<DelegatePrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

@@ -1,11 +1,12 @@
 #include <kes/qt/discreteapproximator/model.h>
 
-#include <kes/qt/discreteapproximator/view.h>
-
+#include <QAction>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QStringList>
 
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace kes::qt::discreteapproximator {
@@ -19,21 +20,81 @@ constexpr double singlePointStep = 25.0;
 
 } // namespace
 
+struct ModelPrivate
+{
+    Model::Points points;
+    int selectedRow = -1;
+    double xMin = Model::absoluteMinimum();
+    double xMax = Model::absoluteMaximum();
+    double yMin = Model::absoluteMinimum();
+    double yMax = Model::absoluteMaximum();
+    // Guarded: the application may delete its action before the model.
+    QPointer<QAction> helpAction;
+};
+
 Model::Model(QObject* parent)
     : QAbstractTableModel(parent)
-    , m_points(createDefaultData())
-    , m_xMin(View::absoluteMinimum())
-    , m_xMax(View::absoluteMaximum())
-    , m_yMin(View::absoluteMinimum())
-    , m_yMax(View::absoluteMaximum())
+    , d(std::make_unique<ModelPrivate>())
 {
+    d->points = createDefaultData();
 }
 
 Model::~Model() = default;
 
+// The range of a signed 32-bit integer, in which the applications keep their curves.
+double Model::absoluteMinimum()
+{
+    return std::numeric_limits<int>::min();
+}
+
+double Model::absoluteMaximum()
+{
+    return std::numeric_limits<int>::max();
+}
+
+int Model::selectedRow() const
+{
+    return d->selectedRow;
+}
+
+double Model::xMinimum() const
+{
+    return d->xMin;
+}
+
+double Model::xMaximum() const
+{
+    return d->xMax;
+}
+
+double Model::yMinimum() const
+{
+    return d->yMin;
+}
+
+double Model::yMaximum() const
+{
+    return d->yMax;
+}
+
+QAction* Model::helpAction() const
+{
+    return d->helpAction;
+}
+
+void Model::setHelpAction(QAction* action)
+{
+    d->helpAction = action;
+}
+
+const Model::Points& Model::points() const
+{
+    return d->points;
+}
+
 int Model::rowCount(const QModelIndex&) const
 {
-    return int(m_points.size());
+    return int(d->points.size());
 }
 
 int Model::columnCount(const QModelIndex&) const
@@ -54,7 +115,7 @@ QVariant Model::dataDisplayRole(const QModelIndex& index) const
 {
     if (!isRow(index.row()))
         return QVariant();
-    const PointF& p = m_points[std::size_t(index.row())];
+    const PointF& p = d->points[std::size_t(index.row())];
     switch (index.column()) {
     case 0:
         return QString::number(p.x, 'g', 7);
@@ -95,13 +156,13 @@ bool Model::setData(const QModelIndex& index, const QVariant& value, int role)
 
 void Model::setData(const Points& points)
 {
-    if (points == m_points)
+    if (points == d->points)
         return;
     const Points replacement = points.empty() ? createDefaultData() : points;
     beginResetModel();
-    m_points = replacement;
+    d->points = replacement;
     // Cleared before the views rebuild, so that none of them shows the old row as selected.
-    m_selectedRow = -1;
+    d->selectedRow = -1;
     endResetModel();
     Q_EMIT modelDataChanged();
 }
@@ -124,20 +185,20 @@ bool Model::setDataEditRole_i(const QModelIndex& index, const QVariant& value)
     if (std::isnan(v))
         return false;
     // Read through a const view: a non-const access would copy a shared list even for a refusal.
-    const Points& pts = m_points;
+    const Points& pts = d->points;
     const std::size_t i = std::size_t(row);
     if (index.column() == 0) {
-        if (v < m_xMin || v > m_xMax)
+        if (v < d->xMin || v > d->xMax)
             return false;
         if (row >= 1 && pts[i - 1].x > v)
             return false;
         if (row < rowCount() - 1 && v > pts[i + 1].x)
             return false;
-        m_points[i].x = v;
+        d->points[i].x = v;
     } else {
-        if (v < m_yMin || v > m_yMax)
+        if (v < d->yMin || v > d->yMax)
             return false;
-        m_points[i].y = v;
+        d->points[i].y = v;
     }
     // Our own index: the caller's may come from another model.
     const QModelIndex cell = this->index(row, index.column());
@@ -155,7 +216,7 @@ bool Model::movePoint(int row, const PointF& p)
 
 bool Model::movePoint_i(int row, const PointF& p)
 {
-    if (!isRow(row) || std::as_const(m_points)[std::size_t(row)] == p)
+    if (!isRow(row) || std::as_const(d->points)[std::size_t(row)] == p)
         return false;
     const bool xTaken = setDataEditRole_i(index(row, 0), p.x);
     const bool yTaken = setDataEditRole_i(index(row, 1), p.y);
@@ -180,7 +241,7 @@ bool Model::insertPointBefore_i(int row)
     const int n = rowCount();
     if (row < 0 || row > n)
         return false;
-    const Points& pts = m_points;
+    const Points& pts = d->points;
     PointF p;
     if (n == 0) {
         // Nothing to derive from: the origin, for insertPoint() to move where it belongs.
@@ -199,10 +260,10 @@ bool Model::insertPointBefore_i(int row)
     }
 
     // Built aside, so that a failed allocation leaves the list as it was.
-    Points grown = m_points;
+    Points grown = d->points;
     grown.insert(std::size_t(row), p);
     beginInsertRows(QModelIndex(), row, row);
-    m_points = grown;
+    d->points = grown;
     endInsertRows();
     Q_EMIT selectedPointChanged(index(row, 0));
     return true;
@@ -213,7 +274,7 @@ void Model::insertPoint(const PointF& p)
     const int n = rowCount();
     int row = n;
     for (int i = 0; i < n; ++i) {
-        if (std::as_const(m_points)[std::size_t(i)].x > p.x) {
+        if (std::as_const(d->points)[std::size_t(i)].x > p.x) {
             row = i;
             break;
         }
@@ -235,10 +296,10 @@ bool Model::removePoint_i(int row)
 {
     if (!isRow(row))
         return false;
-    Points shrunk = m_points;
+    Points shrunk = d->points;
     shrunk.erase(std::size_t(row));
     beginRemoveRows(QModelIndex(), row, row);
-    m_points = shrunk;
+    d->points = shrunk;
     endRemoveRows();
     return true;
 }
@@ -247,8 +308,8 @@ void Model::setSelectedPoint(int row, int column)
 {
     if (row != -1 && !isRow(row))
         return;
-    const int old = m_selectedRow;
-    m_selectedRow = row;
+    const int old = d->selectedRow;
+    d->selectedRow = row;
     // The old row may be gone: insertions and removals do not follow the selection.
     if (isRow(old))
         Q_EMIT dataChanged(index(old, 0), index(old, 1));
@@ -260,21 +321,21 @@ void Model::setSelectedPoint(int row, int column)
 
 void Model::setXRange(double min, double max)
 {
-    m_xMin = min;
-    m_xMax = max;
+    d->xMin = min;
+    d->xMax = max;
 }
 
 void Model::setYRange(double min, double max)
 {
-    m_yMin = min;
-    m_yMax = max;
+    d->yMin = min;
+    d->yMax = max;
 }
 
 QString Model::toString() const
 {
     QStringList lines;
     lines.reserve(rowCount());
-    for (const PointF& p : m_points)
+    for (const PointF& p : d->points)
         lines << QStringLiteral("%1\t%2").arg(p.x).arg(p.y);
     return lines.join(QLatin1Char('\n'));
 }

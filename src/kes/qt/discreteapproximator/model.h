@@ -7,12 +7,15 @@
 #include <kes/core/vector.h>
 
 #include <QAbstractTableModel>
-#include <QAction>
-#include <QPointer>
 #include <QString>
 
+#include <memory>
+
+class QAction;
 
 namespace kes::qt::discreteapproximator {
+
+struct ModelPrivate;
 
 /// A piecewise-linear characteristic: points ordered by x, shown as a table with x in column 0
 /// and y in column 1, one row per point.
@@ -34,6 +37,10 @@ public:
 
     explicit Model(QObject* parent = nullptr);
     ~Model() override;
+
+    /// The default limits: the range of a signed 32-bit integer.
+    static double absoluteMinimum();
+    static double absoluteMaximum();
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -80,21 +87,21 @@ public:
     /// Selects \a row (-1 for none) and announces it with selectedPointChanged(); a row out of
     /// range is ignored.
     void setSelectedPoint(int row, int column);
-    int selectedRow() const { return m_selectedRow; }
+    int selectedRow() const;
 
     /// Admissible ranges, applied to later edits only.
     void setXRange(double min, double max);
     void setYRange(double min, double max);
-    double xMinimum() const { return m_xMin; }
-    double xMaximum() const { return m_xMax; }
-    double yMinimum() const { return m_yMin; }
-    double yMaximum() const { return m_yMax; }
+    double xMinimum() const;
+    double xMaximum() const;
+    double yMinimum() const;
+    double yMaximum() const;
 
     /// Offered by the context menu when set; not owned.
-    QAction* helpAction() const { return m_helpAction; }
-    void setHelpAction(QAction* action) { m_helpAction = action; }
+    QAction* helpAction() const;
+    void setHelpAction(QAction* action);
 
-    const Points& points() const { return m_points; }
+    const Points& points() const;
 
     /// One "x<tab>y" line per point, 6 significant digits, lines joined by "\n".
     QString toString() const;
@@ -114,13 +121,7 @@ Q_SIGNALS:
 private:
     bool isRow(int row) const { return row >= 0 && row < rowCount(); }
 
-    Points m_points;
-    int m_selectedRow = -1;
-    double m_xMin;
-    double m_xMax;
-    double m_yMin;
-    double m_yMax;
-    QPointer<QAction> m_helpAction;
+    std::unique_ptr<ModelPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

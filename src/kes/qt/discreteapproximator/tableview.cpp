@@ -9,10 +9,16 @@
 
 namespace kes::qt::discreteapproximator {
 
+struct TableViewPrivate
+{
+    Model* model = nullptr;
+};
+
 TableView::TableView(Model* model, QWidget* parent)
     : QTableView(parent)
-    , m_model(model)
+    , d(std::make_unique<TableViewPrivate>())
 {
+    d->model = model;
     setItemDelegate(new Delegate(model, this));
     setModel(model);
     // Two columns of numbers share the width, however wide the editor is.
@@ -28,7 +34,7 @@ TableView::~TableView() = default;
 
 void TableView::on_clicked(const QModelIndex& index)
 {
-    m_model->setSelectedPoint(index.row(), index.column());
+    d->model->setSelectedPoint(index.row(), index.column());
 }
 
 void TableView::on_selectedPointChanged(const QModelIndex& index)
@@ -42,7 +48,7 @@ void TableView::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::RightButton)
         return;
     const QModelIndex index = indexAt(event->pos());
-    ContextMenu menu(index.isValid() ? index.row() : -1, m_model);
+    ContextMenu menu(index.isValid() ? index.row() : -1, d->model);
     menu.init();
     menu.exec(event->globalPos());
 }

@@ -5,9 +5,12 @@
 
 #include <QTableView>
 
+#include <memory>
+
 namespace kes::qt::discreteapproximator {
 
 class Model;
+struct TableViewPrivate;
 
 /// The point table as x/y cells, edited as text through a Delegate; a right click opens the
 /// ContextMenu for the row under the cursor, or for the whole list below the last row.
@@ -29,7 +32,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    Model* m_model;
+    std::unique_ptr<TableViewPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

@@ -6,25 +6,33 @@
 #include <kes/qt/discreteapproximator/tableview.h>
 #include <kes/qt/translation/manager.h>
 
-#include <limits>
-
 namespace kes::qt::discreteapproximator {
+
+struct ViewPrivate
+{
+    // All children of the view.
+    Model* model = nullptr;
+    schematic::Model* scene = nullptr;
+    schematic::View* graphicsView = nullptr;
+    TableView* tableView = nullptr;
+};
 
 View::View(QWidget* parent)
     : QTabWidget(parent)
-    , m_model(new Model(this))
+    , d(std::make_unique<ViewPrivate>())
 {
-    m_model->setObjectName(QStringLiteral("model"));
+    d->model = new Model(this);
+    d->model->setObjectName(QStringLiteral("model"));
     setTabPosition(QTabWidget::South);
     setTabShape(QTabWidget::Triangular);
-    m_scene = new schematic::Model(m_model, this);
-    m_graphicsView = new schematic::View(m_scene, this);
-    m_graphicsView->setObjectName(QStringLiteral("graphicsView"));
-    addTab(m_graphicsView, QString());
-    m_tableView = new TableView(m_model, this);
-    m_tableView->setObjectName(QStringLiteral("tableView"));
-    addTab(m_tableView, QString());
-    connect(m_model, SIGNAL(modelDataChanged()), this, SIGNAL(dataChanged()));
+    d->scene = new schematic::Model(d->model, this);
+    d->graphicsView = new schematic::View(d->scene, this);
+    d->graphicsView->setObjectName(QStringLiteral("graphicsView"));
+    addTab(d->graphicsView, QString());
+    d->tableView = new TableView(d->model, this);
+    d->tableView->setObjectName(QStringLiteral("tableView"));
+    addTab(d->tableView, QString());
+    connect(d->model, SIGNAL(modelDataChanged()), this, SIGNAL(dataChanged()));
     connect(&kes::qt::translation::Manager::singleton(), SIGNAL(languageChanged()), this,
             SLOT(translate()));
     translate();
@@ -32,50 +40,64 @@ View::View(QWidget* parent)
 
 View::~View() = default;
 
-// The range of a signed 32-bit integer, in which the applications keep their curves.
+Model* View::model() const
+{
+    return d->model;
+}
+
+schematic::View* View::graphicsView() const
+{
+    return d->graphicsView;
+}
+
+TableView* View::tableView() const
+{
+    return d->tableView;
+}
+
 double View::absoluteMinimum()
 {
-    return std::numeric_limits<int>::min();
+    return Model::absoluteMinimum();
 }
 
 double View::absoluteMaximum()
 {
-    return std::numeric_limits<int>::max();
+    return Model::absoluteMaximum();
 }
 
 kes::core::Vector<kes::core::PointF> View::data() const
 {
-    return m_model->points();
+    return d->model->points();
 }
 
 void View::setData(const kes::core::Vector<kes::core::PointF>& points)
 {
-    m_model->setData(points);
+    d->model->setData(points);
 }
 
 void View::setXRange(double min, double max)
 {
-    m_model->setXRange(min, max);
+    d->model->setXRange(min, max);
 }
 
 void View::setYRange(double min, double max)
 {
-    m_model->setYRange(min, max);
+    d->model->setYRange(min, max);
 }
 
 void View::setXAxisText(const QString& text)
 {
-    m_scene->setXAxisText(text);
+    d->scene->setXAxisText(text);
 }
 
 void View::setYAxisText(const QString& text)
 {
-    m_scene->setYAxisText(text);
+    d->scene->setYAxisText(text);
 }
 
 void View::setPoint(const kes::core::PointF& p)
 {
-    m_scene->setPoint(p);
+    d->scene->setPoint(p);
 }
 
 void View::setPoint(double x, double y)
@@ -85,12 +107,12 @@ void View::setPoint(double x, double y)
 
 void View::setShowPointEnabled(bool enabled)
 {
-    m_scene->setShowPointEnabled(enabled);
+    d->scene->setShowPointEnabled(enabled);
 }
 
 void View::setHelpAction(QAction* action)
 {
-    m_model->setHelpAction(action);
+    d->model->setHelpAction(action);
 }
 
 void View::translate()

@@ -8,12 +8,15 @@
 
 #include <QTabWidget>
 
+#include <memory>
+
 class QAction;
 
 namespace kes::qt::discreteapproximator {
 
 class Model;
 class TableView;
+struct ViewPrivate;
 
 namespace schematic {
 class Model;
@@ -34,7 +37,7 @@ public:
     explicit View(QWidget* parent = nullptr);
     ~View() override;
 
-    /// The default limits: the range of a signed 32-bit integer.
+    /// The default limits of the model: the range of a signed 32-bit integer.
     static double absoluteMinimum();
     static double absoluteMaximum();
 
@@ -57,9 +60,9 @@ public:
     /// Offered last in the right-click menus; not owned.
     void setHelpAction(QAction* action);
 
-    Model* model() const { return m_model; }
-    schematic::View* graphicsView() const { return m_graphicsView; }
-    TableView* tableView() const { return m_tableView; }
+    Model* model() const;
+    schematic::View* graphicsView() const;
+    TableView* tableView() const;
 
 public Q_SLOTS:
     void translate();
@@ -69,10 +72,7 @@ Q_SIGNALS:
     void dataChanged();
 
 private:
-    Model* m_model;
-    schematic::Model* m_scene;
-    schematic::View* m_graphicsView;
-    TableView* m_tableView;
+    std::unique_ptr<ViewPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator

@@ -100,7 +100,7 @@ private:
     friend class LogPrivate;
     static std::atomic<Log*> _impl;
 
-    std::unique_ptr<LogPrivate> d;
+    std::unique_ptr<LogPrivate> const d;
 };
 
 } // namespace kes::qt::log

@@ -3,14 +3,22 @@
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QPointer>
 #include <QResizeEvent>
 
 #include <memory>
 
 namespace kes::qt::log {
 
+struct ViewPrivate
+{
+    // Guarded: the application may delete its action before the view.
+    QPointer<QAction> helpAction;
+};
+
 View::View(QWidget* parent)
     : QTextEdit(parent)
+    , d(std::make_unique<ViewPrivate>())
 {
     setReadOnly(true);
     connect(this, SIGNAL(textChanged()), this, SLOT(on_textChanged()));
@@ -20,7 +28,7 @@ View::~View() = default;
 
 void View::setHelpAction(QAction* action)
 {
-    m_helpAction = action;
+    d->helpAction = action;
 }
 
 void View::on_textChanged()
@@ -31,9 +39,9 @@ void View::on_textChanged()
 void View::contextMenuEvent(QContextMenuEvent* event)
 {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-    if (m_helpAction) {
+    if (d->helpAction) {
         menu->addSeparator();
-        menu->addAction(m_helpAction);
+        menu->addAction(d->helpAction);
     }
     menu->exec(event->globalPos());
 }

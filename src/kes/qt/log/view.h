@@ -3,14 +3,17 @@
 
 #include <kes/qt/kes_qt_export.h>
 
-#include <QPointer>
 #include <QTextEdit>
+
+#include <memory>
 
 class QAction;
 class QContextMenuEvent;
 class QResizeEvent;
 
 namespace kes::qt::log {
+
+struct ViewPrivate;
 
 /// A read-only text view that follows the newest line of its document while its cursor is at the
 /// end; its context menu can end with an application's help entry.
@@ -34,8 +37,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    // Guarded: the application may delete its action before the view.
-    QPointer<QAction> m_helpAction;
+    std::unique_ptr<ViewPrivate> const d;
 };
 
 } // namespace kes::qt::log

@@ -5,15 +5,23 @@
 
 #include <QAction>
 #include <QHideEvent>
+#include <QPointer>
 #include <QShowEvent>
 #include <QTextCursor>
 
 namespace kes::qt::log {
 
+struct WindowPrivate
+{
+    // Guarded: an application may delete its action before the panel.
+    QPointer<QAction> action;
+};
+
 Window::Window(QAction* action, QWidget* parent)
     : QDockWidget(parent)
-    , m_action(action)
+    , d(std::make_unique<WindowPrivate>())
 {
+    d->action = action;
     setObjectName(QStringLiteral("LogMessageWindow"));
     auto* view = new View;
     if (Log* hub = Log::singleton()) {
@@ -23,16 +31,16 @@ Window::Window(QAction* action, QWidget* parent)
     }
     setWidget(view);
     translate();
-    if (m_action)
-        connect(m_action, SIGNAL(triggered()), this, SLOT(on_logmessage_triggered()));
+    if (d->action)
+        connect(d->action, SIGNAL(triggered()), this, SLOT(on_logmessage_triggered()));
 }
 
 Window::~Window() = default;
 
 void Window::updateAction()
 {
-    if (m_action)
-        m_action->setChecked(isVisible());
+    if (d->action)
+        d->action->setChecked(isVisible());
 }
 
 void Window::translate()
@@ -42,24 +50,24 @@ void Window::translate()
 
 void Window::on_logmessage_triggered()
 {
-    if (!m_action)
+    if (!d->action)
         return;
-    setVisible(m_action->isChecked());
+    setVisible(d->action->isChecked());
 }
 
 void Window::showEvent(QShowEvent* event)
 {
     QDockWidget::showEvent(event);
-    if (m_action)
-        m_action->setChecked(true);
+    if (d->action)
+        d->action->setChecked(true);
     event->accept();
 }
 
 void Window::hideEvent(QHideEvent* event)
 {
     QDockWidget::hideEvent(event);
-    if (m_action)
-        m_action->setChecked(false);
+    if (d->action)
+        d->action->setChecked(false);
     event->accept();
 }
 

@@ -4,13 +4,16 @@
 #include <kes/qt/kes_qt_export.h>
 
 #include <QDockWidget>
-#include <QPointer>
+
+#include <memory>
 
 class QAction;
 class QHideEvent;
 class QShowEvent;
 
 namespace kes::qt::log {
+
+struct WindowPrivate;
 
 /// A dockable panel showing the log hub's document, Log::singleton(), which must exist before the
 /// panel and outlive it.
@@ -40,8 +43,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    // Guarded: an application may delete its action before the panel.
-    QPointer<QAction> m_action;
+    std::unique_ptr<WindowPrivate> const d;
 };
 
 } // namespace kes::qt::log

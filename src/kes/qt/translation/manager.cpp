@@ -21,6 +21,14 @@ const char* const settingsKey = "language";
 
 } // namespace
 
+struct ManagerPrivate
+{
+    int currentLanguage = -1;
+    QVector<Manager::Language> languages;
+    QStringList searchPaths;
+    QString namespacePrefix;
+};
+
 Manager& Manager::singleton()
 {
     static Manager instance;
@@ -29,6 +37,7 @@ Manager& Manager::singleton()
 
 Manager::Manager(QObject* parent)
     : QObject(parent)
+    , d(std::make_unique<ManagerPrivate>())
 {
     // The library's own message files are compiled into its resources here.
     addTranslatorSearchPath(QStringLiteral(":/kes_translation_translations/"));
@@ -36,14 +45,39 @@ Manager::Manager(QObject* parent)
 
 Manager::~Manager() = default;
 
+QStringList Manager::translatorSearchPaths() const
+{
+    return d->searchPaths;
+}
+
+int Manager::currentLanguage() const
+{
+    return d->currentLanguage;
+}
+
+QVector<Manager::Language> Manager::languages() const
+{
+    return d->languages;
+}
+
+QString Manager::namespacePrefix() const
+{
+    return d->namespacePrefix;
+}
+
+void Manager::setNamespacePrefix(const QString& prefix)
+{
+    d->namespacePrefix = prefix;
+}
+
 void Manager::addTranslatorSearchPath(const QString& path)
 {
     QString normalised = path;
     normalised.replace(QLatin1Char('\\'), QLatin1Char('/'));
     if (!normalised.endsWith(QLatin1Char('/')))
         normalised.append(QLatin1Char('/'));
-    if (!m_searchPaths.contains(normalised))
-        m_searchPaths.append(normalised);
+    if (!d->searchPaths.contains(normalised))
+        d->searchPaths.append(normalised);
 }
 
 bool Manager::load(const QFileInfo& fileInfo)
@@ -68,19 +102,19 @@ bool Manager::load(const QFileInfo& fileInfo)
         const QString actionName = element.attribute(QStringLiteral("actionName"));
         language.action = new QAction(actionName.isEmpty() ? language.fullName : actionName, this);
         language.action->setCheckable(true);
-        m_languages.append(language);
+        d->languages.append(language);
     }
 
     // A new group takes every action, those of earlier files too; an action belongs to one group
     // at a time, so the older groups are left empty.
     auto* group = new QActionGroup(this);
-    for (const Language& language : qAsConst(m_languages))
+    for (const Language& language : qAsConst(d->languages))
         group->addAction(language.action);
     connect(group, SIGNAL(triggered(QAction*)), this, SLOT(on_actionTriggered(QAction*)));
 
     // Earlier languages are loaded again too: a search path added since the first file may hold
     // message files for them.
-    for (Language& language : m_languages)
+    for (Language& language : d->languages)
         loadMessageFiles(language);
 
     QSettings settings;
@@ -100,7 +134,7 @@ bool Manager::load(const QFileInfo& fileInfo)
 void Manager::loadMessageFiles(Language& language)
 {
     const QString pattern = QStringLiteral("*_%1.qm").arg(language.shortName);
-    for (const QString& path : qAsConst(m_searchPaths)) {
+    for (const QString& path : qAsConst(d->searchPaths)) {
         const QDir directory(path);
         const QFileInfoList entries = directory.entryInfoList(QStringList(pattern));
         for (const QFileInfo& entry : entries) {
@@ -146,19 +180,19 @@ void Manager::addTranslator(const QString& shortName, const QString& path)
     if (index < 0)
         return;
     if (QTranslator* translator = loadTranslator(path))
-        m_languages[index].translators.append(translator);
+        d->languages[index].translators.append(translator);
 }
 
 void Manager::setLanguage(int index)
 {
-    if (index < 0 || index >= m_languages.size())
+    if (index < 0 || index >= d->languages.size())
         return;
-    if (m_currentLanguage >= 0 && m_currentLanguage < m_languages.size()) {
-        for (QTranslator* translator : qAsConst(m_languages.at(m_currentLanguage).translators))
+    if (d->currentLanguage >= 0 && d->currentLanguage < d->languages.size()) {
+        for (QTranslator* translator : qAsConst(d->languages.at(d->currentLanguage).translators))
             QCoreApplication::removeTranslator(translator);
     }
-    m_currentLanguage = index;
-    const Language& language = m_languages.at(index);
+    d->currentLanguage = index;
+    const Language& language = d->languages.at(index);
     language.action->setChecked(true);
     for (QTranslator* translator : language.translators)
         QCoreApplication::installTranslator(translator);
@@ -168,26 +202,26 @@ void Manager::setLanguage(int index)
 
 void Manager::setLanguage(const QString& shortName)
 {
-    if (m_languages.isEmpty())
+    if (d->languages.isEmpty())
         return;
     int index = languageFromShortName(shortName);
     if (index < 0)
         index = 0;
-    if (index != m_currentLanguage)
+    if (index != d->currentLanguage)
         setLanguage(index);
 }
 
 QString Manager::currentLanguageString() const
 {
-    if (m_currentLanguage < 0 || m_currentLanguage >= m_languages.size())
+    if (d->currentLanguage < 0 || d->currentLanguage >= d->languages.size())
         return QString();
-    return m_languages.at(m_currentLanguage).shortName;
+    return d->languages.at(d->currentLanguage).shortName;
 }
 
 QStringList Manager::shortNames() const
 {
     QStringList names;
-    for (const Language& language : m_languages)
+    for (const Language& language : d->languages)
         names.append(language.shortName);
     return names;
 }
@@ -195,7 +229,7 @@ QStringList Manager::shortNames() const
 QStringList Manager::fullNames() const
 {
     QStringList names;
-    for (const Language& language : m_languages)
+    for (const Language& language : d->languages)
         names.append(language.fullName);
     return names;
 }
@@ -203,15 +237,15 @@ QStringList Manager::fullNames() const
 QList<QAction*> Manager::languageActions() const
 {
     QList<QAction*> actions;
-    for (const Language& language : m_languages)
+    for (const Language& language : d->languages)
         actions.append(language.action);
     return actions;
 }
 
 int Manager::languageFromActionName(const QString& text) const
 {
-    for (int i = 0; i < m_languages.size(); ++i) {
-        if (m_languages.at(i).action->text() == text)
+    for (int i = 0; i < d->languages.size(); ++i) {
+        if (d->languages.at(i).action->text() == text)
             return i;
     }
     return -1;
@@ -219,8 +253,8 @@ int Manager::languageFromActionName(const QString& text) const
 
 int Manager::languageFromFullName(const QString& name) const
 {
-    for (int i = 0; i < m_languages.size(); ++i) {
-        if (m_languages.at(i).fullName == name)
+    for (int i = 0; i < d->languages.size(); ++i) {
+        if (d->languages.at(i).fullName == name)
             return i;
     }
     return -1;
@@ -228,8 +262,8 @@ int Manager::languageFromFullName(const QString& name) const
 
 int Manager::languageFromShortName(const QString& name) const
 {
-    for (int i = 0; i < m_languages.size(); ++i) {
-        if (m_languages.at(i).shortName == name)
+    for (int i = 0; i < d->languages.size(); ++i) {
+        if (d->languages.at(i).shortName == name)
             return i;
     }
     return -1;
@@ -240,7 +274,7 @@ void Manager::on_actionTriggered(QAction* action)
     if (!action)
         return;
     const int index = languageFromActionName(action->text());
-    if (index != -1 && index != m_currentLanguage)
+    if (index != -1 && index != d->currentLanguage)
         setLanguage(index);
 }
 

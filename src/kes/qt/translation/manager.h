@@ -9,11 +9,15 @@
 #include <QStringList>
 #include <QVector>
 
+#include <memory>
+
 class QAction;
 class QFileInfo;
 class QTranslator;
 
 namespace kes::qt::translation {
+
+struct ManagerPrivate;
 
 /// The keeper of the user-interface language.
 ///
@@ -54,7 +58,7 @@ public:
     /// Adds a directory searched for the application's ".qm" files by load(). Backslashes become
     /// "/" and a trailing "/" is added; an entry already present is not added again.
     void addTranslatorSearchPath(const QString& path);
-    QStringList translatorSearchPaths() const { return m_searchPaths; }
+    QStringList translatorSearchPaths() const;
 
     /// Reads the language list file \a fileInfo and sets everything up. False, with nothing
     /// changed, when the file cannot be read or its document element is not "translations". A
@@ -77,9 +81,9 @@ public:
     /// The short name of the current language; empty before the first selection.
     QString currentLanguageString() const;
     /// The index of the current language, -1 before the first selection.
-    int currentLanguage() const { return m_currentLanguage; }
+    int currentLanguage() const;
 
-    QVector<Language> languages() const { return m_languages; }
+    QVector<Language> languages() const;
     QStringList shortNames() const;
     QStringList fullNames() const;
     QList<QAction*> languageActions() const;
@@ -91,8 +95,8 @@ public:
 
     /// The XML prefix of the attribute and element names read by Loader and written by
     /// Serialiser ("p" makes them read "p:key" and write "p:item"); empty by default.
-    QString namespacePrefix() const { return m_namespacePrefix; }
-    void setNamespacePrefix(const QString& prefix) { m_namespacePrefix = prefix; }
+    QString namespacePrefix() const;
+    void setNamespacePrefix(const QString& prefix);
 
 Q_SIGNALS:
     /// Emitted after every selection of a language.
@@ -104,10 +108,7 @@ public Q_SLOTS:
 private:
     void loadMessageFiles(Language& language);
 
-    int m_currentLanguage = -1;
-    QVector<Language> m_languages;
-    QStringList m_searchPaths;
-    QString m_namespacePrefix;
+    std::unique_ptr<ManagerPrivate> const d;
 };
 
 } // namespace kes::qt::translation

@@ -4,8 +4,14 @@
 
 namespace kes::qt::translation {
 
+// Empty for now; it keeps the class's size when the menu gains state.
+struct MenuPrivate
+{
+};
+
 Menu::Menu(QWidget* parent)
     : QMenu(parent)
+    , d(std::make_unique<MenuPrivate>())
 {
     Manager& manager = Manager::singleton();
     addActions(manager.languageActions());

@@ -5,7 +5,11 @@
 
 #include <QMenu>
 
+#include <memory>
+
 namespace kes::qt::translation {
+
+struct MenuPrivate;
 
 /// A menu of the languages offered by Manager::singleton(), one checkable entry each.
 ///
@@ -22,6 +26,9 @@ public:
 
 public Q_SLOTS:
     void translate();
+
+private:
+    std::unique_ptr<MenuPrivate> const d;
 };
 
 } // namespace kes::qt::translation

@@ -91,6 +91,54 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::exportdialogs::ImgExportDialog</name>
+    <message>
+        <source>Image export</source>
+        <translation>Bildexport</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>Qualität:</translation>
+    </message>
+    <message>
+        <source>Enable compression</source>
+        <translation>Komprimierung aktivieren</translation>
+    </message>
+    <message>
+        <source>Check this if you want to customize the image&apos;s quality</source>
+        <translation>Aktivieren Sie dies, um die Qualität des Bildes selbst festzulegen</translation>
+    </message>
+    <message>
+        <source>Adjust quality (if supported by the chosen format)</source>
+        <translation>Qualität einstellen (sofern das gewählte Format dies unterstützt)</translation>
+    </message>
+    <message>
+        <source>Enable lossless compression (if supported by the chosen format)</source>
+        <translation>Verlustfreie Komprimierung aktivieren (sofern das gewählte Format dies unterstützt)</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::BalloonToolTip</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::WebDialog</name>
+    <message>
+        <source>Web page</source>
+        <translation>Webseite</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::log::Window</name>
     <message>
         <source>Log</source>

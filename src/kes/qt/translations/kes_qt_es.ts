@@ -91,6 +91,54 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::exportdialogs::ImgExportDialog</name>
+    <message>
+        <source>Image export</source>
+        <translation>Exportar imagen</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>Calidad:</translation>
+    </message>
+    <message>
+        <source>Enable compression</source>
+        <translation>Activar compresión</translation>
+    </message>
+    <message>
+        <source>Check this if you want to customize the image&apos;s quality</source>
+        <translation>Marque esta casilla para elegir usted mismo la calidad de la imagen</translation>
+    </message>
+    <message>
+        <source>Adjust quality (if supported by the chosen format)</source>
+        <translation>Ajustar la calidad (si el formato elegido lo admite)</translation>
+    </message>
+    <message>
+        <source>Enable lossless compression (if supported by the chosen format)</source>
+        <translation>Activar la compresión sin pérdidas (si el formato elegido lo admite)</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::BalloonToolTip</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::WebDialog</name>
+    <message>
+        <source>Web page</source>
+        <translation>Página web</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::log::Window</name>
     <message>
         <source>Log</source>

@@ -91,6 +91,54 @@
     </message>
 </context>
 <context>
+    <name>kes::qt::exportdialogs::ImgExportDialog</name>
+    <message>
+        <source>Image export</source>
+        <translation>Exportation d&apos;image</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>Qualité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Enable compression</source>
+        <translation>Activer la compression</translation>
+    </message>
+    <message>
+        <source>Check this if you want to customize the image&apos;s quality</source>
+        <translation>Cochez cette case pour choisir vous-même la qualité de l&apos;image</translation>
+    </message>
+    <message>
+        <source>Adjust quality (if supported by the chosen format)</source>
+        <translation>Régler la qualité (si le format choisi le permet)</translation>
+    </message>
+    <message>
+        <source>Enable lossless compression (if supported by the chosen format)</source>
+        <translation>Activer la compression sans perte (si le format choisi le permet)</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::BalloonToolTip</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>kes::qt::gui::widgets::WebDialog</name>
+    <message>
+        <source>Web page</source>
+        <translation>Page web</translation>
+    </message>
+</context>
+<context>
     <name>kes::qt::log::Window</name>
     <message>
         <source>Log</source>

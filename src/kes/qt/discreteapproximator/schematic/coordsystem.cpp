@@ -14,6 +14,7 @@
 #include <QPolygonF>
 
 #include <algorithm>
+#include <array>
 
 namespace kes::qt::discreteapproximator::schematic {
 
@@ -56,59 +57,84 @@ void placeText(QGraphicsSimpleTextItem* text, double x, double y)
 
 } // namespace
 
+// The parts are child items, deleted with the coordinate system.
+struct CoordsystemPrivate
+{
+    Model* scene = nullptr;
+    std::array<QGraphicsRectItem*, 4> plates{};
+    QGraphicsLineItem* xAxis = nullptr;
+    QGraphicsLineItem* yAxis = nullptr;
+    QGraphicsLineItem* xTick = nullptr;
+    QGraphicsLineItem* yTick = nullptr;
+    QGraphicsPolygonItem* xArrow = nullptr;
+    QGraphicsPolygonItem* yArrow = nullptr;
+    QGraphicsSimpleTextItem* xText = nullptr;
+    QGraphicsSimpleTextItem* yText = nullptr;
+    std::array<QGraphicsSimpleTextItem*, 4> rangeLabels{};
+    QRectF boundingRect;
+    QRectF sceneRect;
+    std::array<double, 4> range{};
+};
+
 Coordsystem::Coordsystem(Model* scene, QGraphicsItem* parent)
     : QGraphicsItem(parent)
-    , m_scene(scene)
+    , d(std::make_unique<CoordsystemPrivate>())
 {
+    d->scene = scene;
     // Plates first, so that they lie under the labels but over the characteristic's lines.
     const QColor background = QGuiApplication::palette().color(QPalette::Base);
-    for (QGraphicsRectItem*& plate : m_plates) {
+    for (QGraphicsRectItem*& plate : d->plates) {
         plate = new QGraphicsRectItem(this);
         plate->setPen(Qt::NoPen);
         plate->setBrush(background);
     }
     const QPen axisPen(axisColour, 1.0);
-    for (QGraphicsLineItem** line : {&m_xAxis, &m_yAxis, &m_xTick, &m_yTick}) {
+    for (QGraphicsLineItem** line : {&d->xAxis, &d->yAxis, &d->xTick, &d->yTick}) {
         *line = new QGraphicsLineItem(this);
         (*line)->setPen(axisPen);
     }
-    for (QGraphicsPolygonItem** arrow : {&m_xArrow, &m_yArrow}) {
+    for (QGraphicsPolygonItem** arrow : {&d->xArrow, &d->yArrow}) {
         *arrow = new QGraphicsPolygonItem(this);
         (*arrow)->setPen(Qt::NoPen);
         (*arrow)->setBrush(axisColour);
     }
     const QFont axisFont = scaledFont(1.0);
-    for (QGraphicsSimpleTextItem** text : {&m_xText, &m_yText}) {
+    for (QGraphicsSimpleTextItem** text : {&d->xText, &d->yText}) {
         *text = new QGraphicsSimpleTextItem(this);
         (*text)->setFont(axisFont);
         (*text)->setBrush(axisTextColour);
     }
     const QFont rangeFont = scaledFont(0.85);
-    for (QGraphicsSimpleTextItem*& label : m_rangeLabels) {
+    for (QGraphicsSimpleTextItem*& label : d->rangeLabels) {
         label = new QGraphicsSimpleTextItem(this);
         label->setFont(rangeFont);
         label->setBrush(rangeColour);
     }
     // Over the lines of the characteristic, under its points.
     setZValue(10.0);
-    m_xText->setText(QStringLiteral("x"));
-    m_yText->setText(QStringLiteral("y"));
+    d->xText->setText(QStringLiteral("x"));
+    d->yText->setText(QStringLiteral("y"));
 }
 
 Coordsystem::~Coordsystem() = default;
 
+Model* Coordsystem::schematic() const
+{
+    return d->scene;
+}
+
 void Coordsystem::setMinMax(double xMin, double xMax, double yMin, double yMax)
 {
-    m_range = {xMin, xMax, yMin, yMax};
-    for (std::size_t i = 0; i < m_range.size(); ++i)
-        m_rangeLabels[i]->setText(QString::number(m_range[i], 'g', 4));
+    d->range = {xMin, xMax, yMin, yMax};
+    for (std::size_t i = 0; i < d->range.size(); ++i)
+        d->rangeLabels[i]->setText(QString::number(d->range[i], 'g', 4));
     updateLabelPos();
     updateBoundingRect();
 }
 
 void Coordsystem::setSceneRect(const QRectF& rect)
 {
-    m_sceneRect = rect;
+    d->sceneRect = rect;
     const double w = rect.width();
     const double h = rect.height();
     const double left = Model::_leftMargin;
@@ -116,13 +142,13 @@ void Coordsystem::setSceneRect(const QRectF& rect)
     const double xEnd = w - Model::_rightMargin + 10.0;
     const double yEnd = Model::_topMargin - 10.0;
 
-    m_xAxis->setLine(left - 5.0, xAxisY, xEnd, xAxisY);
-    m_yAxis->setLine(left, xAxisY + 5.0, left, yEnd);
-    m_xArrow->setPolygon(arrowHead(QPointF(xEnd, xAxisY), QPointF(1.0, 0.0)));
-    m_yArrow->setPolygon(arrowHead(QPointF(left, yEnd), QPointF(0.0, -1.0)));
-    m_xTick->setLine(w - Model::_rightMargin, xAxisY, w - Model::_rightMargin,
+    d->xAxis->setLine(left - 5.0, xAxisY, xEnd, xAxisY);
+    d->yAxis->setLine(left, xAxisY + 5.0, left, yEnd);
+    d->xArrow->setPolygon(arrowHead(QPointF(xEnd, xAxisY), QPointF(1.0, 0.0)));
+    d->yArrow->setPolygon(arrowHead(QPointF(left, yEnd), QPointF(0.0, -1.0)));
+    d->xTick->setLine(w - Model::_rightMargin, xAxisY, w - Model::_rightMargin,
                      xAxisY + tickLength);
-    m_yTick->setLine(left - tickLength, Model::_topMargin, left, Model::_topMargin);
+    d->yTick->setLine(left - tickLength, Model::_topMargin, left, Model::_topMargin);
 
     updateLabelPos();
     updateBoundingRect();
@@ -130,44 +156,44 @@ void Coordsystem::setSceneRect(const QRectF& rect)
 
 void Coordsystem::setXAxisText(const QString& text)
 {
-    m_xText->setText(text);
+    d->xText->setText(text);
     updateLabelPos();
     updateBoundingRect();
 }
 
 void Coordsystem::setYAxisText(const QString& text)
 {
-    m_yText->setText(text);
+    d->yText->setText(text);
     updateLabelPos();
     updateBoundingRect();
 }
 
 QString Coordsystem::rangeText(RangeLabel label) const
 {
-    return m_rangeLabels[std::size_t(label)]->text();
+    return d->rangeLabels[std::size_t(label)]->text();
 }
 
 QString Coordsystem::xAxisText() const
 {
-    return m_xText->text();
+    return d->xText->text();
 }
 
 QString Coordsystem::yAxisText() const
 {
-    return m_yText->text();
+    return d->yText->text();
 }
 
 QRectF Coordsystem::boundingRect() const
 {
-    return m_boundingRect;
+    return d->boundingRect;
 }
 
 void Coordsystem::paint(QPainter*, const QStyleOptionGraphicsItem*, QWidget*) {}
 
 void Coordsystem::updateLabelPos()
 {
-    const double w = m_sceneRect.width();
-    const double h = m_sceneRect.height();
+    const double w = d->sceneRect.width();
+    const double h = d->sceneRect.height();
     const double left = Model::_leftMargin;
     const double right = w - Model::_rightMargin;
     const double xAxisY = h - Model::_bottomMargin;
@@ -175,38 +201,38 @@ void Coordsystem::updateLabelPos()
     auto size = [](const QGraphicsSimpleTextItem* text) { return text->boundingRect().size(); };
 
     // The x range under its two ends, centred; the maximum yields when both would touch.
-    QGraphicsSimpleTextItem* xMin = m_rangeLabels[XMinimum];
-    QGraphicsSimpleTextItem* xMax = m_rangeLabels[XMaximum];
+    QGraphicsSimpleTextItem* xMin = d->rangeLabels[XMinimum];
+    QGraphicsSimpleTextItem* xMax = d->rangeLabels[XMaximum];
     placeText(xMin, left - size(xMin).width() / 2.0, xAxisY + gap);
     const double xMinEnd = xMin->pos().x() + size(xMin).width();
     placeText(xMax, std::max(right - size(xMax).width() / 2.0, xMinEnd + gap), xAxisY + gap);
 
     // The y range left of its two ends. The minimum sits a little higher than centred, so that
     // it keeps clear of the x minimum below the axes' crossing.
-    QGraphicsSimpleTextItem* yMin = m_rangeLabels[YMinimum];
-    QGraphicsSimpleTextItem* yMax = m_rangeLabels[YMaximum];
+    QGraphicsSimpleTextItem* yMin = d->rangeLabels[YMinimum];
+    QGraphicsSimpleTextItem* yMax = d->rangeLabels[YMaximum];
     const double yLabelsEnd = left - gap - 1.0;
     placeText(yMin, yLabelsEnd - size(yMin).width(), xAxisY + gap / 2.0 - size(yMin).height());
     placeText(yMax, yLabelsEnd - size(yMax).width(), Model::_topMargin - size(yMax).height() / 2.0);
 
     // The axis texts beside the arrow heads: x above the end of its axis, right-aligned to the
     // scene, y centred above the tip of its axis.
-    placeText(m_xText, w - border - 1.0 - size(m_xText).width(),
-              xAxisY - arrowHalfWidth - gap / 2.0 - size(m_xText).height());
-    placeText(m_yText, left - size(m_yText).width() / 2.0,
-              Model::_topMargin - 10.0 - gap / 2.0 - size(m_yText).height());
+    placeText(d->xText, w - border - 1.0 - size(d->xText).width(),
+              xAxisY - arrowHalfWidth - gap / 2.0 - size(d->xText).height());
+    placeText(d->yText, left - size(d->yText).width() / 2.0,
+              Model::_topMargin - 10.0 - gap / 2.0 - size(d->yText).height());
 
-    for (std::size_t i = 0; i < m_plates.size(); ++i) {
-        const QGraphicsSimpleTextItem* label = m_rangeLabels[i];
-        m_plates[i]->setRect(label->mapRectToParent(label->boundingRect()).adjusted(-1, 0, 1, 0));
-        m_plates[i]->setVisible(!label->text().isEmpty());
+    for (std::size_t i = 0; i < d->plates.size(); ++i) {
+        const QGraphicsSimpleTextItem* label = d->rangeLabels[i];
+        d->plates[i]->setRect(label->mapRectToParent(label->boundingRect()).adjusted(-1, 0, 1, 0));
+        d->plates[i]->setVisible(!label->text().isEmpty());
     }
 }
 
 void Coordsystem::updateBoundingRect()
 {
     prepareGeometryChange();
-    m_boundingRect = childrenBoundingRect();
+    d->boundingRect = childrenBoundingRect();
 }
 
 } // namespace kes::qt::discreteapproximator::schematic

@@ -6,16 +6,12 @@
 #include <QGraphicsItem>
 #include <QRectF>
 
-#include <array>
-
-class QGraphicsLineItem;
-class QGraphicsPolygonItem;
-class QGraphicsRectItem;
-class QGraphicsSimpleTextItem;
+#include <memory>
 
 namespace kes::qt::discreteapproximator::schematic {
 
 class Model;
+struct CoordsystemPrivate;
 
 /// The axes of the graph along the scene's margins, with arrow heads, a tick at the end of each
 /// range, the data range written under the ends of the x range and left of the ends of the y
@@ -35,7 +31,7 @@ public:
     void setXAxisText(const QString& text);
     void setYAxisText(const QString& text);
 
-    Model* schematic() const { return m_scene; }
+    Model* schematic() const;
     QString rangeText(RangeLabel label) const;
     QString xAxisText() const;
     QString yAxisText() const;
@@ -48,20 +44,7 @@ private:
     void updateLabelPos();
     void updateBoundingRect();
 
-    Model* m_scene;
-    std::array<QGraphicsRectItem*, 4> m_plates;
-    QGraphicsLineItem* m_xAxis;
-    QGraphicsLineItem* m_yAxis;
-    QGraphicsLineItem* m_xTick;
-    QGraphicsLineItem* m_yTick;
-    QGraphicsPolygonItem* m_xArrow;
-    QGraphicsPolygonItem* m_yArrow;
-    QGraphicsSimpleTextItem* m_xText;
-    QGraphicsSimpleTextItem* m_yText;
-    std::array<QGraphicsSimpleTextItem*, 4> m_rangeLabels;
-    QRectF m_boundingRect;
-    QRectF m_sceneRect;
-    std::array<double, 4> m_range{};
+    std::unique_ptr<CoordsystemPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

@@ -8,10 +8,17 @@
 
 namespace kes::qt::discreteapproximator::schematic {
 
+struct CrossPrivate
+{
+    kes::core::PointF point;
+    QGraphicsSimpleTextItem* label = nullptr; // a child item
+};
+
 Cross::Cross(QGraphicsItem* parent)
     : QGraphicsPathItem(parent)
-    , m_label(new QGraphicsSimpleTextItem(this))
+    , d(std::make_unique<CrossPrivate>())
 {
+    d->label = new QGraphicsSimpleTextItem(this);
     setPen(QPen(QBrush(Qt::red), 3.0, Qt::SolidLine, Qt::SquareCap));
     setZValue(1000.0);
     QPainterPath path;
@@ -20,22 +27,27 @@ Cross::Cross(QGraphicsItem* parent)
     path.moveTo(0.0, -_crossSize);
     path.lineTo(0.0, _crossSize);
     setPath(path);
-    m_label->setPos(0.0, 10.0);
-    m_label->setBrush(QColor(0xb0, 0x10, 0x10));
-    setCrossPoint(m_point);
+    d->label->setPos(0.0, 10.0);
+    d->label->setBrush(QColor(0xb0, 0x10, 0x10));
+    setCrossPoint(d->point);
 }
 
 Cross::~Cross() = default;
 
+kes::core::PointF Cross::crossPoint() const
+{
+    return d->point;
+}
+
 void Cross::setCrossPoint(const kes::core::PointF& p)
 {
-    m_point = p;
-    m_label->setText(PosDisplay::text(p));
+    d->point = p;
+    d->label->setText(PosDisplay::text(p));
 }
 
 QString Cross::labelText() const
 {
-    return m_label->text();
+    return d->label->text();
 }
 
 } // namespace kes::qt::discreteapproximator::schematic

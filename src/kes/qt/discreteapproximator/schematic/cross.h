@@ -7,9 +7,11 @@
 
 #include <QGraphicsPathItem>
 
-class QGraphicsSimpleTextItem;
+#include <memory>
 
 namespace kes::qt::discreteapproximator::schematic {
+
+struct CrossPrivate;
 
 /// A red plus sign over everything else at an operating point given by the application, with
 /// its coordinates underneath.
@@ -23,12 +25,11 @@ public:
 
     /// Stores \a p and shows it as "(x,y)"; placing the cross is the scene's business.
     void setCrossPoint(const kes::core::PointF& p);
-    kes::core::PointF crossPoint() const { return m_point; }
+    kes::core::PointF crossPoint() const;
     QString labelText() const;
 
 private:
-    kes::core::PointF m_point;
-    QGraphicsSimpleTextItem* m_label;
+    std::unique_ptr<CrossPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

@@ -5,9 +5,12 @@
 
 #include <QGraphicsLineItem>
 
+#include <memory>
+
 namespace kes::qt::discreteapproximator::schematic {
 
 class Model;
+struct LinePrivate;
 
 /// One segment of the characteristic, or one of the horizontal runs beyond its ends.
 class KES_QT_EXPORT Line : public QGraphicsLineItem
@@ -16,10 +19,10 @@ public:
     explicit Line(Model* scene, QGraphicsItem* parent = nullptr);
     ~Line() override;
 
-    Model* schematic() const { return m_scene; }
+    Model* schematic() const;
 
 private:
-    Model* m_scene;
+    std::unique_ptr<LinePrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

@@ -21,23 +21,59 @@ double capped(double scale)
     return std::isnan(scale) || scale > Model::maximumScale ? Model::maximumScale : scale;
 }
 
+// What the item positions were computed from; nothing needs re-placing while it holds.
+struct Mapping
+{
+    double xScale = 0.0;
+    double yScale = 0.0;
+    double xMin = 0.0;
+    double yMin = 0.0;
+    double viewWidth = -1.0;
+    double viewHeight = -1.0;
+
+    bool operator==(const Mapping& other) const
+    {
+        return xScale == other.xScale && yScale == other.yScale && xMin == other.xMin
+            && yMin == other.yMin && viewWidth == other.viewWidth
+            && viewHeight == other.viewHeight;
+    }
+};
+
 } // namespace
 
-bool Model::Mapping::operator==(const Mapping& other) const
+struct ModelPrivate
 {
-    return xScale == other.xScale && yScale == other.yScale && xMin == other.xMin
-        && yMin == other.yMin && viewWidth == other.viewWidth && viewHeight == other.viewHeight;
-}
+    discreteapproximator::Model* dataModel = nullptr;
+    QVector<Point*> points;
+    QVector<Line*> lines;
+    double xMin = 0.0;
+    double xMax = 0.0;
+    double yMin = 0.0;
+    double yMax = 0.0;
+    double xScale = 0.0;
+    double yScale = 0.0;
+    double viewWidth = -1.0;
+    double viewHeight = -1.0;
+    bool moving = false;
+    // Items of the scene, which deletes them.
+    Coordsystem* coordsystem = nullptr;
+    Cross* cross = nullptr;
+    // Out of the scene, deleted once control is back in the event loop.
+    QVector<Point*> retired;
+    Mapping mapping;
+    bool mapped = false;
+};
 
 Model::Model(discreteapproximator::Model* dataModel, QObject* parent)
     : QGraphicsScene(parent)
-    , m_dataModel(dataModel)
-    , m_coordsystem(new Coordsystem(this))
-    , m_cross(new Cross)
+    , d(std::make_unique<ModelPrivate>())
 {
-    m_cross->hide();
-    addItem(m_cross);
-    addItem(m_coordsystem);
+    d->dataModel = dataModel;
+    d->coordsystem = new Coordsystem(this);
+    d->cross = new Cross;
+    d->cross->hide();
+    addItem(d->cross);
+    addItem(d->coordsystem);
     on_modelReset();
     connect(dataModel, SIGNAL(modelReset()), this, SLOT(on_modelReset()));
     connect(dataModel, SIGNAL(dataChanged( const QModelIndex &, const QModelIndex & )), this,
@@ -52,90 +88,160 @@ Model::Model(discreteapproximator::Model* dataModel, QObject* parent)
 
 Model::~Model()
 {
-    qDeleteAll(m_retired);
+    qDeleteAll(d->retired);
+}
+
+discreteapproximator::Model* Model::dataModel() const
+{
+    return d->dataModel;
+}
+
+const QVector<Point*>& Model::points() const
+{
+    return d->points;
+}
+
+const QVector<Line*>& Model::lines() const
+{
+    return d->lines;
+}
+
+double Model::xMinimum() const
+{
+    return d->xMin;
+}
+
+double Model::xMaximum() const
+{
+    return d->xMax;
+}
+
+double Model::yMinimum() const
+{
+    return d->yMin;
+}
+
+double Model::yMaximum() const
+{
+    return d->yMax;
+}
+
+double Model::xScale() const
+{
+    return d->xScale;
+}
+
+double Model::yScale() const
+{
+    return d->yScale;
+}
+
+double Model::viewWidth() const
+{
+    return d->viewWidth;
+}
+
+double Model::viewHeight() const
+{
+    return d->viewHeight;
+}
+
+bool Model::isMoving() const
+{
+    return d->moving;
+}
+
+Coordsystem* Model::coordsystem() const
+{
+    return d->coordsystem;
+}
+
+Cross* Model::cross() const
+{
+    return d->cross;
 }
 
 QPointF Model::toSceneCoords(const PointF& p) const
 {
-    return QPointF((p.x - m_xMin) * m_xScale + _leftMargin,
-                   (m_viewHeight - _bottomMargin) - (p.y - m_yMin) * m_yScale);
+    return QPointF((p.x - d->xMin) * d->xScale + _leftMargin,
+                   (d->viewHeight - _bottomMargin) - (p.y - d->yMin) * d->yScale);
 }
 
 PointF Model::toDataCoords(const QPointF& q) const
 {
-    return PointF{(q.x() - _leftMargin) / m_xScale + m_xMin,
-                  (q.y() - m_viewHeight + _bottomMargin) / (-m_yScale) + m_yMin};
+    return PointF{(q.x() - _leftMargin) / d->xScale + d->xMin,
+                  (q.y() - d->viewHeight + _bottomMargin) / (-d->yScale) + d->yMin};
 }
 
 void Model::setViewSize(const QSize& s)
 {
-    m_viewWidth = s.width();
-    m_viewHeight = s.height();
+    d->viewWidth = s.width();
+    d->viewHeight = s.height();
     updateScale();
 }
 
 void Model::updateScale()
 {
     // A widget smaller than the margins, or one not sized yet, has no plotting area at all.
-    const double plotWidth = std::max(0.0, m_viewWidth - _leftMargin - _rightMargin);
-    const double plotHeight = std::max(0.0, m_viewHeight - _bottomMargin - _topMargin);
-    const Mapping mapping{capped(plotWidth / (m_xMax - m_xMin)),
-                          capped(plotHeight / (m_yMax - m_yMin)),
-                          m_xMin,
-                          m_yMin,
-                          m_viewWidth,
-                          m_viewHeight};
+    const double plotWidth = std::max(0.0, d->viewWidth - _leftMargin - _rightMargin);
+    const double plotHeight = std::max(0.0, d->viewHeight - _bottomMargin - _topMargin);
+    const Mapping mapping{capped(plotWidth / (d->xMax - d->xMin)),
+                          capped(plotHeight / (d->yMax - d->yMin)),
+                          d->xMin,
+                          d->yMin,
+                          d->viewWidth,
+                          d->viewHeight};
     // Compared as a whole: a range shifted without changing its width moves every item too.
-    if (m_mapped && mapping == m_mapping)
+    if (d->mapped && mapping == d->mapping)
         return;
-    m_mapping = mapping;
-    m_mapped = true;
-    m_xScale = mapping.xScale;
-    m_yScale = mapping.yScale;
+    d->mapping = mapping;
+    d->mapped = true;
+    d->xScale = mapping.xScale;
+    d->yScale = mapping.yScale;
     updatePoints();
-    if (m_viewWidth >= 0.0 && m_viewHeight >= 0.0) {
-        const QRectF rect(0.0, 0.0, m_viewWidth, m_viewHeight);
+    if (d->viewWidth >= 0.0 && d->viewHeight >= 0.0) {
+        const QRectF rect(0.0, 0.0, d->viewWidth, d->viewHeight);
         setSceneRect(rect);
-        m_coordsystem->setSceneRect(rect);
+        d->coordsystem->setSceneRect(rect);
     }
 }
 
 void Model::calcMinMaxCoords()
 {
-    const auto& data = m_dataModel->points();
-    if (m_moving || data.empty())
+    const auto& data = d->dataModel->points();
+    if (d->moving || data.empty())
         return;
-    m_xMin = m_xMax = data[0].x;
-    m_yMin = m_yMax = data[0].y;
+    d->xMin = d->xMax = data[0].x;
+    d->yMin = d->yMax = data[0].y;
     for (const PointF& p : data) {
-        m_xMin = std::min(m_xMin, p.x);
-        m_xMax = std::max(m_xMax, p.x);
-        m_yMin = std::min(m_yMin, p.y);
-        m_yMax = std::max(m_yMax, p.y);
+        d->xMin = std::min(d->xMin, p.x);
+        d->xMax = std::max(d->xMax, p.x);
+        d->yMin = std::min(d->yMin, p.y);
+        d->yMax = std::max(d->yMax, p.y);
     }
-    m_coordsystem->setMinMax(m_xMin, m_xMax, m_yMin, m_yMax);
+    d->coordsystem->setMinMax(d->xMin, d->xMax, d->yMin, d->yMax);
     updateScale();
 }
 
 void Model::updatePoints()
 {
-    for (int row = 0; row < m_points.size(); ++row)
+    for (int row = 0; row < d->points.size(); ++row)
         movePoint_i(row);
-    m_cross->setPos(toSceneCoords(m_cross->crossPoint()));
+    d->cross->setPos(toSceneCoords(d->cross->crossPoint()));
 }
 
 void Model::updatePointRow()
 {
-    for (int row = 0; row < m_points.size(); ++row)
-        m_points.at(row)->setRow(row);
+    for (int row = 0; row < d->points.size(); ++row)
+        d->points.at(row)->setRow(row);
 }
 
 void Model::movePoint_i(int row)
 {
-    const auto& data = m_dataModel->points();
-    if (row < 0 || row >= m_points.size() || std::size_t(row) >= data.size())
+    const auto& data = d->dataModel->points();
+    if (row < 0 || row >= d->points.size() || std::size_t(row) >= data.size())
         return;
-    m_points.at(row)->setPos(toSceneCoords(data[std::size_t(row)]));
+    d->points.at(row)->setPos(toSceneCoords(data[std::size_t(row)]));
     // Only the two lines that end at this point depend on its position.
     layLine(row);
     layLine(row + 1);
@@ -143,22 +249,22 @@ void Model::movePoint_i(int row)
 
 void Model::layLine(int line)
 {
-    const int n = m_points.size();
-    if (line < 0 || line >= m_lines.size() || n == 0)
+    const int n = d->points.size();
+    if (line < 0 || line >= d->lines.size() || n == 0)
         return;
     QPointF from;
     QPointF to;
     if (line == 0) {
-        from = m_points.first()->pos();
-        to = QPointF(from.x() - m_viewWidth, from.y());
+        from = d->points.first()->pos();
+        to = QPointF(from.x() - d->viewWidth, from.y());
     } else if (line == n) {
-        from = m_points.last()->pos();
-        to = QPointF(from.x() + m_viewWidth, from.y());
+        from = d->points.last()->pos();
+        to = QPointF(from.x() + d->viewWidth, from.y());
     } else {
-        from = m_points.at(line - 1)->pos();
-        to = m_points.at(line)->pos();
+        from = d->points.at(line - 1)->pos();
+        to = d->points.at(line)->pos();
     }
-    m_lines.at(line)->setLine(QLineF(from, to));
+    d->lines.at(line)->setLine(QLineF(from, to));
 }
 
 void Model::movePoint(int row)
@@ -169,29 +275,29 @@ void Model::movePoint(int row)
 
 void Model::movePoint(Point* item, const QPointF& scenePos)
 {
-    m_moving = true;
-    m_dataModel->movePoint(m_points.indexOf(item), toDataCoords(scenePos));
+    d->moving = true;
+    d->dataModel->movePoint(d->points.indexOf(item), toDataCoords(scenePos));
 }
 
 void Model::movementFinished()
 {
-    m_moving = false;
+    d->moving = false;
     calcMinMaxCoords();
 }
 
 void Model::setSelectedPoint(Point* item)
 {
-    m_dataModel->setSelectedPoint(m_points.indexOf(item), 0);
+    d->dataModel->setSelectedPoint(d->points.indexOf(item), 0);
 }
 
 void Model::insertPoint(const QPointF& scenePos)
 {
-    m_dataModel->insertPoint(toDataCoords(scenePos));
+    d->dataModel->insertPoint(toDataCoords(scenePos));
 }
 
 void Model::insertPoint(int row)
 {
-    if (row < 0 || row > m_points.size())
+    if (row < 0 || row > d->points.size())
         return;
     addItems(row);
     updatePointRow();
@@ -203,59 +309,59 @@ void Model::addItems(int row)
 {
     auto* point = new Point(this);
     addItem(point);
-    m_points.insert(row, point);
+    d->points.insert(row, point);
     // n + 1 lines for n points: the first point brings both runs beyond the ends.
     do {
         auto* line = new Line(this);
         addItem(line);
-        m_lines.insert(std::min(row, m_lines.size()), line);
-    } while (m_lines.size() < m_points.size() + 1);
+        d->lines.insert(std::min(row, d->lines.size()), line);
+    } while (d->lines.size() < d->points.size() + 1);
 }
 
 void Model::removePoint(int row)
 {
-    if (row < 0 || row >= m_points.size())
+    if (row < 0 || row >= d->points.size())
         return;
-    retire(m_points.takeAt(row));
-    delete m_lines.takeAt(row);
+    retire(d->points.takeAt(row));
+    delete d->lines.takeAt(row);
     // Without points there is nothing for the remaining run to start from.
-    if (m_points.isEmpty()) {
-        qDeleteAll(m_lines);
-        m_lines.clear();
+    if (d->points.isEmpty()) {
+        qDeleteAll(d->lines);
+        d->lines.clear();
     }
     updatePointRow();
-    movePoint_i(row < m_points.size() ? row : row - 1);
+    movePoint_i(row < d->points.size() ? row : row - 1);
     calcMinMaxCoords();
 }
 
 void Model::setPoint(const PointF& p)
 {
-    m_cross->setCrossPoint(p);
-    m_cross->setPos(toSceneCoords(p));
+    d->cross->setCrossPoint(p);
+    d->cross->setPos(toSceneCoords(p));
 }
 
 void Model::setShowPointEnabled(bool enabled)
 {
-    m_cross->setVisible(enabled);
+    d->cross->setVisible(enabled);
 }
 
 void Model::setXAxisText(const QString& text)
 {
-    m_coordsystem->setXAxisText(text);
+    d->coordsystem->setXAxisText(text);
 }
 
 void Model::setYAxisText(const QString& text)
 {
-    m_coordsystem->setYAxisText(text);
+    d->coordsystem->setYAxisText(text);
 }
 
 void Model::clearItems()
 {
-    for (Point* point : qAsConst(m_points))
+    for (Point* point : qAsConst(d->points))
         retire(point);
-    m_points.clear();
-    qDeleteAll(m_lines);
-    m_lines.clear();
+    d->points.clear();
+    qDeleteAll(d->lines);
+    d->lines.clear();
 }
 
 // An application may answer dataChanged() by replacing or removing points while one of them is
@@ -264,33 +370,33 @@ void Model::retire(Point* point)
 {
     // Its release will not come: the drag is over.
     if (mouseGrabberItem() == point)
-        m_moving = false;
+        d->moving = false;
     removeItem(point);
-    m_retired.append(point);
-    if (m_retired.size() == 1)
+    d->retired.append(point);
+    if (d->retired.size() == 1)
         QMetaObject::invokeMethod(this, "deleteRetired", Qt::QueuedConnection);
 }
 
 void Model::deleteRetired()
 {
-    qDeleteAll(m_retired);
-    m_retired.clear();
+    qDeleteAll(d->retired);
+    d->retired.clear();
 }
 
 void Model::on_modelReset()
 {
     clearItems();
     // One pass for the whole list, not a range and scale update per row.
-    const int rows = m_dataModel->rowCount();
+    const int rows = d->dataModel->rowCount();
     for (int row = 0; row < rows; ++row)
         addItems(row);
     updatePointRow();
-    m_mapped = false;
+    d->mapped = false;
     calcMinMaxCoords();
     // During a drag the range is kept, but the new items still need their places.
-    if (!m_mapped)
+    if (!d->mapped)
         updatePoints();
-    on_selectedPointChanged(m_dataModel->index(m_dataModel->selectedRow(), 0));
+    on_selectedPointChanged(d->dataModel->index(d->dataModel->selectedRow(), 0));
 }
 
 void Model::on_dataChanged(const QModelIndex& topLeft, const QModelIndex&)
@@ -316,7 +422,7 @@ void Model::on_rowsInserted(const QModelIndex&, int start, int end)
 void Model::on_selectedPointChanged(const QModelIndex& index)
 {
     const int selected = index.isValid() ? index.row() : -1;
-    for (Point* point : qAsConst(m_points))
+    for (Point* point : qAsConst(d->points))
         point->setSelected(point->row() == selected);
 }
 

@@ -8,6 +8,8 @@
 #include <QGraphicsScene>
 #include <QVector>
 
+#include <memory>
+
 namespace kes::qt::discreteapproximator {
 class Model;
 }
@@ -18,6 +20,7 @@ class Coordsystem;
 class Cross;
 class Line;
 class Point;
+struct ModelPrivate;
 
 /// The graph of a point table model: one item per point, a line between neighbours and a
 /// horizontal run beyond each end, axes labelled with the data range and an optional cross at an
@@ -42,7 +45,7 @@ public:
     explicit Model(discreteapproximator::Model* dataModel, QObject* parent = nullptr);
     ~Model() override;
 
-    discreteapproximator::Model* dataModel() const { return m_dataModel; }
+    discreteapproximator::Model* dataModel() const;
 
     QPointF toSceneCoords(const kes::core::PointF& p) const;
     kes::core::PointF toDataCoords(const QPointF& q) const;
@@ -76,19 +79,19 @@ public:
     void setXAxisText(const QString& text);
     void setYAxisText(const QString& text);
 
-    const QVector<Point*>& points() const { return m_points; }
-    const QVector<Line*>& lines() const { return m_lines; }
-    double xMinimum() const { return m_xMin; }
-    double xMaximum() const { return m_xMax; }
-    double yMinimum() const { return m_yMin; }
-    double yMaximum() const { return m_yMax; }
-    double xScale() const { return m_xScale; }
-    double yScale() const { return m_yScale; }
-    double viewWidth() const { return m_viewWidth; }
-    double viewHeight() const { return m_viewHeight; }
-    bool isMoving() const { return m_moving; }
-    Coordsystem* coordsystem() const { return m_coordsystem; }
-    Cross* cross() const { return m_cross; }
+    const QVector<Point*>& points() const;
+    const QVector<Line*>& lines() const;
+    double xMinimum() const;
+    double xMaximum() const;
+    double yMinimum() const;
+    double yMaximum() const;
+    double xScale() const;
+    double yScale() const;
+    double viewWidth() const;
+    double viewHeight() const;
+    bool isMoving() const;
+    Coordsystem* coordsystem() const;
+    Cross* cross() const;
 
 public Q_SLOTS:
     void on_modelReset();
@@ -101,41 +104,12 @@ private Q_SLOTS:
     void deleteRetired();
 
 private:
-    // What the item positions were computed from; nothing needs re-placing while it holds.
-    struct Mapping
-    {
-        double xScale = 0.0;
-        double yScale = 0.0;
-        double xMin = 0.0;
-        double yMin = 0.0;
-        double viewWidth = -1.0;
-        double viewHeight = -1.0;
-        bool operator==(const Mapping& other) const;
-    };
-
     void addItems(int row);
     void layLine(int line);
     void clearItems();
     void retire(Point* point);
 
-    discreteapproximator::Model* m_dataModel;
-    QVector<Point*> m_points;
-    QVector<Line*> m_lines;
-    double m_xMin = 0.0;
-    double m_xMax = 0.0;
-    double m_yMin = 0.0;
-    double m_yMax = 0.0;
-    double m_xScale = 0.0;
-    double m_yScale = 0.0;
-    double m_viewWidth = -1.0;
-    double m_viewHeight = -1.0;
-    bool m_moving = false;
-    Coordsystem* m_coordsystem;
-    Cross* m_cross;
-    // Out of the scene, deleted once control is back in the event loop.
-    QVector<Point*> m_retired;
-    Mapping m_mapping;
-    bool m_mapped = false;
+    std::unique_ptr<ModelPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

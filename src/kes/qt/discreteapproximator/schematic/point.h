@@ -5,10 +5,13 @@
 
 #include <QGraphicsItem>
 
+#include <memory>
+
 namespace kes::qt::discreteapproximator::schematic {
 
 class Model;
 class PosDisplay;
+struct PointPrivate;
 
 /// One point of the characteristic, a filled circle: blue, or green while selected. It can be
 /// dragged with the left button and shows its coordinates while the cursor is over it. Where it
@@ -29,10 +32,10 @@ public:
 
     /// Draws the point as selected and raises it above the others.
     void setSelected(bool selected);
-    bool selected() const { return m_selected; }
-    void setRow(int row) { m_row = row; }
-    int row() const { return m_row; }
-    PosDisplay* posDisplay() const { return m_posDisplay; }
+    bool selected() const;
+    void setRow(int row);
+    int row() const;
+    PosDisplay* posDisplay() const;
 
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
@@ -45,14 +48,7 @@ private:
     double restingZ() const;
     void updatePosText();
 
-    Model* m_scene;
-    QRectF m_rect;
-    double m_outlineWidth = 1.0;
-    QPointF m_grabOffset;
-    bool m_moving = false;
-    bool m_selected = false;
-    PosDisplay* m_posDisplay;
-    int m_row = -1;
+    std::unique_ptr<PointPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

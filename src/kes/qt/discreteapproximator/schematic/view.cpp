@@ -12,11 +12,20 @@
 
 namespace kes::qt::discreteapproximator::schematic {
 
+struct ViewPrivate
+{
+    Model* scene = nullptr;
+    // Where the last press was, in scene coordinates: "Insert point" inserts there.
+    QPointF pressPos;
+    QAction* insertPoint = nullptr;
+};
+
 View::View(Model* scene, QWidget* parent)
     : QGraphicsView(scene, parent)
-    , m_scene(scene)
-    , m_insertPoint(new QAction(this))
+    , d(std::make_unique<ViewPrivate>())
 {
+    d->scene = scene;
+    d->insertPoint = new QAction(this);
     setMinimumSize(int(Model::_leftMargin + Model::_rightMargin + 100.0),
                    int(Model::_topMargin + Model::_bottomMargin + 100.0));
     // The scene is exactly as large as the viewport: nothing to scroll, and no frame taking
@@ -28,7 +37,7 @@ View::View(Model* scene, QWidget* parent)
     setRenderHint(QPainter::Antialiasing);
     // The press opens our own menu; the request Qt sends after it must not reach the parents.
     setContextMenuPolicy(Qt::PreventContextMenu);
-    connect(m_insertPoint, SIGNAL(triggered()), this, SLOT(on_insertPoint()));
+    connect(d->insertPoint, SIGNAL(triggered()), this, SLOT(on_insertPoint()));
     connect(&kes::qt::translation::Manager::singleton(), SIGNAL(languageChanged()), this,
             SLOT(translate()));
     translate();
@@ -36,26 +45,31 @@ View::View(Model* scene, QWidget* parent)
 
 View::~View() = default;
 
+Model* View::schematic() const
+{
+    return d->scene;
+}
+
 void View::on_insertPoint()
 {
-    m_scene->insertPoint(m_pressPos);
+    d->scene->insertPoint(d->pressPos);
 }
 
 void View::translate()
 {
-    m_insertPoint->setText(tr("Insert point"));
+    d->insertPoint->setText(tr("Insert point"));
 }
 
 void View::resizeEvent(QResizeEvent* event)
 {
     QGraphicsView::resizeEvent(event);
-    m_scene->setViewSize(viewport()->size());
+    d->scene->setViewSize(viewport()->size());
 }
 
 void View::mousePressEvent(QMouseEvent* event)
 {
     QGraphicsView::mousePressEvent(event);
-    m_pressPos = mapToScene(event->pos());
+    d->pressPos = mapToScene(event->pos());
     if (event->button() != Qt::RightButton)
         return;
     event->accept();
@@ -68,7 +82,7 @@ void View::mousePressEvent(QMouseEvent* event)
             break;
         }
     }
-    discreteapproximator::Model* dataModel = m_scene->dataModel();
+    discreteapproximator::Model* dataModel = d->scene->dataModel();
     if (row >= 0 && row < dataModel->rowCount()) {
         ContextMenu menu(row, dataModel);
         menu.init();
@@ -76,7 +90,7 @@ void View::mousePressEvent(QMouseEvent* event)
         return;
     }
     ContextMenu menu(-1, dataModel);
-    menu.addAction(m_insertPoint);
+    menu.addAction(d->insertPoint);
     menu.addSeparator();
     menu.init();
     menu.exec(event->globalPos());

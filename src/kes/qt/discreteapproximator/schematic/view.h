@@ -5,11 +5,12 @@
 
 #include <QGraphicsView>
 
-class QAction;
+#include <memory>
 
 namespace kes::qt::discreteapproximator::schematic {
 
 class Model;
+struct ViewPrivate;
 
 /// Shows the graph at the size of the widget, one scene pixel per screen pixel. A right click
 /// on a point opens the point's context menu; on empty space the menu starts with "Insert point",
@@ -23,7 +24,7 @@ public:
     explicit View(Model* scene, QWidget* parent = nullptr);
     ~View() override;
 
-    Model* schematic() const { return m_scene; }
+    Model* schematic() const;
     /// The view's own translate(dx, dy) stays available beside the slot of the same name.
     using QGraphicsView::translate;
 
@@ -36,9 +37,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    Model* m_scene;
-    QPointF m_pressPos;
-    QAction* m_insertPoint;
+    std::unique_ptr<ViewPrivate> const d;
 };
 
 } // namespace kes::qt::discreteapproximator::schematic

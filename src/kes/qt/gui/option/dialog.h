@@ -53,7 +53,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    std::unique_ptr<DialogPrivate> d;
+    std::unique_ptr<DialogPrivate> const d;
 };
 
 } // namespace kes::qt::gui::option

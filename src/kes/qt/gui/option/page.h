@@ -5,7 +5,11 @@
 
 #include <QWidget>
 
+#include <memory>
+
 namespace kes::qt::gui::option {
+
+struct PagePrivate;
 
 /// One page of settings in an options Dialog; applications derive one per group of settings.
 ///
@@ -21,6 +25,9 @@ public:
     /// Called when the user confirms the dialog: apply the page's settings and return true, or
     /// report the invalid input and return false to keep the dialog open.
     virtual bool finish();
+
+private:
+    std::unique_ptr<PagePrivate> const d;
 };
 
 } // namespace kes::qt::gui::option

@@ -51,7 +51,7 @@ private:
     TreeItem* itemOf(const QModelIndex& index) const;
     TreeItem* insert(TreeItem* item, TreeItem* parent);
 
-    std::unique_ptr<TreePrivate> d;
+    std::unique_ptr<TreePrivate> const d;
 };
 
 } // namespace kes::qt::gui::option

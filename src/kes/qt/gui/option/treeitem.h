@@ -65,7 +65,7 @@ private Q_SLOTS:
     void translate();
 
 private:
-    std::unique_ptr<TreeItemPrivate> d;
+    std::unique_ptr<TreeItemPrivate> const d;
 };
 
 } // namespace kes::qt::gui::option

@@ -47,7 +47,7 @@ public Q_SLOTS:
     void setDisabled(bool disable);
 
 private:
-    std::unique_ptr<AbstractLabeledWidgetPrivate> d;
+    std::unique_ptr<AbstractLabeledWidgetPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

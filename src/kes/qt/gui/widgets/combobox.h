@@ -60,7 +60,7 @@ protected:
 private:
     void init();
 
-    std::unique_ptr<ComboBoxPrivate> d;
+    std::unique_ptr<ComboBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

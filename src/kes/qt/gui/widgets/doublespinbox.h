@@ -69,7 +69,7 @@ private:
 
     void init();
 
-    std::unique_ptr<DoubleSpinBoxPrivate> d;
+    std::unique_ptr<DoubleSpinBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

@@ -42,7 +42,7 @@ public:
     QValidator::State validate(QString& text, int& pos) const override;
 
 private:
-    std::unique_ptr<HexSpinBoxPrivate> d;
+    std::unique_ptr<HexSpinBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

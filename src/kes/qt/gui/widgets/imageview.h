@@ -86,7 +86,7 @@ private:
     void drawSegment(QPainter* painter, const kes::core::image::Segment& segment);
     void drawCross(QPainter* painter, const kes::core::image::Segment& segment);
 
-    std::unique_ptr<ImageViewPrivate> d;
+    std::unique_ptr<ImageViewPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

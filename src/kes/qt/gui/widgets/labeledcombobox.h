@@ -37,7 +37,7 @@ Q_SIGNALS:
 private:
     void init();
 
-    std::unique_ptr<LabeledComboBoxPrivate> d;
+    std::unique_ptr<LabeledComboBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

@@ -33,7 +33,7 @@ Q_SIGNALS:
 private:
     void init();
 
-    std::unique_ptr<LabeledDoubleSpinBoxPrivate> d;
+    std::unique_ptr<LabeledDoubleSpinBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

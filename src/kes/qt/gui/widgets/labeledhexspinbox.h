@@ -36,7 +36,7 @@ Q_SIGNALS:
 private:
     void init();
 
-    std::unique_ptr<LabeledHexSpinBoxPrivate> d;
+    std::unique_ptr<LabeledHexSpinBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

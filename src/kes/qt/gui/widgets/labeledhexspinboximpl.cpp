@@ -2,8 +2,14 @@
 
 namespace kes::qt::gui::widgets {
 
+// Empty for now; it keeps the class's size when the field gains state.
+struct LabeledHexSpinBoxImplPrivate
+{
+};
+
 LabeledHexSpinBoxImpl::LabeledHexSpinBoxImpl(QWidget* parent)
     : HexSpinBox(parent)
+    , d(std::make_unique<LabeledHexSpinBoxImplPrivate>())
 {
 }
 

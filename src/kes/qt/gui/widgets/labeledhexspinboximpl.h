@@ -4,9 +4,13 @@
 #include <kes/qt/gui/widgets/hexspinbox.h>
 #include <kes/qt/kes_qt_export.h>
 
+#include <memory>
+
 class QLineEdit;
 
 namespace kes::qt::gui::widgets {
+
+struct LabeledHexSpinBoxImplPrivate;
 
 /// The field of a labelled widget: a HexSpinBox whose line edit can be replaced from outside.
 class KES_QT_EXPORT LabeledHexSpinBoxImpl : public HexSpinBox
@@ -19,6 +23,9 @@ public:
 
     /// Replaces the line edit, which the spin box then owns.
     void setLineEdit(QLineEdit* edit);
+
+private:
+    std::unique_ptr<LabeledHexSpinBoxImplPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

@@ -36,7 +36,7 @@ Q_SIGNALS:
 private:
     void init();
 
-    std::unique_ptr<LabeledLineEditPrivate> d;
+    std::unique_ptr<LabeledLineEditPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

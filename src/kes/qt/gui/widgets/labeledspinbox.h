@@ -36,7 +36,7 @@ Q_SIGNALS:
 private:
     void init();
 
-    std::unique_ptr<LabeledSpinBoxPrivate> d;
+    std::unique_ptr<LabeledSpinBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

@@ -5,9 +5,13 @@
 
 #include <QSpinBox>
 
+#include <memory>
+
 class QLineEdit;
 
 namespace kes::qt::gui::widgets {
+
+struct LabeledSpinBoxImplPrivate;
 
 /// The field of a labelled widget: a QSpinBox whose line edit can be replaced from outside.
 class KES_QT_EXPORT LabeledSpinBoxImpl : public QSpinBox
@@ -20,6 +24,9 @@ public:
 
     /// Replaces the line edit, which the spin box then owns.
     void setLineEdit(QLineEdit* edit);
+
+private:
+    std::unique_ptr<LabeledSpinBoxImplPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

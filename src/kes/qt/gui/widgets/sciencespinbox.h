@@ -85,7 +85,7 @@ protected:
 private:
     void refreshText();
 
-    std::unique_ptr<ScienceSpinBoxPrivate> d;
+    std::unique_ptr<ScienceSpinBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

@@ -67,7 +67,7 @@ private:
 
     void init();
 
-    std::unique_ptr<SpinBoxPrivate> d;
+    std::unique_ptr<SpinBoxPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets

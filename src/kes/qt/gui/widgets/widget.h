@@ -41,7 +41,7 @@ public:
     static QColor highlightedColor() { return QColor(128, 255, 128); }
 
 private:
-    std::unique_ptr<WidgetPrivate> d;
+    std::unique_ptr<WidgetPrivate> const d;
 };
 
 } // namespace kes::qt::gui::widgets
