@@ -28,7 +28,7 @@ void lookUpEverything(const ContainerPtr& container)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     kes::fuzz::ensureApplication();
-    static QTemporaryDir dir;
+    static QTemporaryDir dir(kes::fuzz::temporaryFolder() + QStringLiteral("/kes_fuzz_XXXXXX"));
     const QString path = dir.filePath(QStringLiteral("translations.xml"));
     const QByteArray content = kes::fuzz::bytes(data, size);
     {

@@ -13,6 +13,9 @@ namespace kes::fuzz {
 // Creates the application (offscreen, no plugins from the environment) once per process.
 void ensureApplication();
 
+// Where the targets write their per-input files.
+QString temporaryFolder();
+
 // Aborts with \a what when \a condition is false, so that libFuzzer keeps the input.
 void require(bool condition, const char* what);
 
