@@ -23,6 +23,7 @@ class DialogPrivate;
 class KES_QT_EXPORT Dialog : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(bool rangeModifiersEnabled READ rangeModifiersEnabled WRITE setRangeModifiersEnabled)
 
 public:
     explicit Dialog(QWidget* parent = nullptr);
@@ -38,6 +39,7 @@ public:
     kes::core::IntVector ranges() const;
     /// The spin boxes, the region selection and pasting together; copying stays possible.
     void setRangeModifiersEnabled(bool enable);
+    bool rangeModifiersEnabled() const;
     void updateColors();
 
 public Q_SLOTS:

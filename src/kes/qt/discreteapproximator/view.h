@@ -32,6 +32,9 @@ class View;
 class KES_QT_EXPORT View : public QTabWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString xAxisText READ xAxisText WRITE setXAxisText)
+    Q_PROPERTY(QString yAxisText READ yAxisText WRITE setYAxisText)
+    Q_PROPERTY(bool showPointEnabled READ showPointEnabled WRITE setShowPointEnabled)
 
 public:
     explicit View(QWidget* parent = nullptr);
@@ -49,7 +52,9 @@ public:
     /// Admissible ranges for later edits; points already outside are left as they are.
     void setXRange(double min, double max);
     void setYRange(double min, double max);
+    QString xAxisText() const;
     void setXAxisText(const QString& text);
+    QString yAxisText() const;
     void setYAxisText(const QString& text);
 
     /// The operating point marked by a cross on the graph.
@@ -57,6 +62,7 @@ public:
     void setPoint(double x, double y);
     /// Shows or hides the cross; hidden at first.
     void setShowPointEnabled(bool enabled);
+    bool showPointEnabled() const;
     /// Offered last in the right-click menus; not owned.
     void setHelpAction(QAction* action);
 

@@ -34,6 +34,8 @@ class ViewPrivate;
 class KES_QT_EXPORT View : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int numChannels READ numChannels WRITE setNumChannels)
+    Q_PROPERTY(QString xAxisTitle READ xAxisTitle WRITE setXAxisTitle)
 
 public:
     static constexpr int maxChannels = 16;

@@ -21,6 +21,8 @@ struct AbstractLabeledWidgetPrivate;
 class KES_QT_EXPORT AbstractLabeledWidget : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString labelText READ labelText WRITE setLabelText)
+    Q_PROPERTY(QString separator READ separator WRITE setSeparator)
 
 public:
     /// An empty label.

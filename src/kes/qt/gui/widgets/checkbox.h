@@ -18,6 +18,7 @@ class CheckBoxPrivate;
 class KES_QT_EXPORT CheckBox : public QCheckBox
 {
     Q_OBJECT
+    Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly)
 
 public:
     explicit CheckBox(QWidget* parent = nullptr);

@@ -21,6 +21,7 @@ struct ComboBoxPrivate;
 class KES_QT_EXPORT ComboBox : public QComboBox, public Widget, public UserData<void*>
 {
     Q_OBJECT
+    Q_PROPERTY(bool displayStyleTracking READ displayStyleTracking WRITE setDisplayStyleTracking)
 
 public:
     ComboBox();

@@ -21,6 +21,7 @@ struct DoubleSpinBoxPrivate;
 class KES_QT_EXPORT DoubleSpinBox : public QDoubleSpinBox, public Widget, public UserData<void*>
 {
     Q_OBJECT
+    Q_PROPERTY(bool displayStyleTracking READ displayStyleTracking WRITE setDisplayStyleTracking)
 
 public:
     DoubleSpinBox();

@@ -17,6 +17,8 @@ class HyperLabelPrivate;
 class KES_QT_EXPORT HyperLabel : public QLabel
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ plainText WRITE setText)
+    Q_PROPERTY(QString link READ link WRITE setLink)
 
 public:
     explicit HyperLabel(QWidget* parent = nullptr);
@@ -24,6 +26,8 @@ public:
 
     void setLink(const QString& link);
     QString link() const;
+    /// The text as given to setText(), without the anchor that text() shows around it.
+    QString plainText() const;
 
     /// The browser command of every label, looked up on the PATH and given the URL as its one
     /// argument; empty at first, which leaves the URL to the desktop's default handler.

@@ -28,6 +28,9 @@ class ImageViewPrivate;
 class KES_QT_EXPORT ImageView : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(bool roiSelectionEnabled READ isRoiSelectionEnabled WRITE setRoiSelectionEnabled)
+    Q_PROPERTY(bool overlayDrawingEnabled READ overlayDrawingEnabled WRITE setOverlayDrawingEnabled)
+    Q_PROPERTY(bool imageFrozen READ isImageFrozen WRITE setFreezeImage)
 
 public:
     explicit ImageView(QWidget* parent = nullptr);

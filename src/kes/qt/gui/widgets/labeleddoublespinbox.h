@@ -16,6 +16,10 @@ struct LabeledDoubleSpinBoxPrivate;
 class KES_QT_EXPORT LabeledDoubleSpinBox : public AbstractLabeledWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    Q_PROPERTY(double minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(double value READ value WRITE setValue)
 
 public:
     explicit LabeledDoubleSpinBox(QWidget* parent = nullptr);
@@ -24,6 +28,18 @@ public:
 
     QWidget* widget() const override;
     QDoubleSpinBox* doubleSpinBox() const;
+
+    /// The spin box's value, range and decimals, so that forms can set them.
+    double value() const;
+    int decimals() const;
+    void setDecimals(int decimals);
+    double minimum() const;
+    void setMinimum(double minimum);
+    double maximum() const;
+    void setMaximum(double maximum);
+
+public Q_SLOTS:
+    void setValue(double value);
 
 Q_SIGNALS:
     void valueChanged(double value);

@@ -17,6 +17,11 @@ struct LabeledHexSpinBoxPrivate;
 class KES_QT_EXPORT LabeledHexSpinBox : public AbstractLabeledWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int value READ value WRITE setValue)
+    Q_PROPERTY(int textWidth READ textWidth WRITE setTextWidth)
+    Q_PROPERTY(bool upperCase READ upperCase WRITE setUpperCase)
 
 public:
     explicit LabeledHexSpinBox(QWidget* parent = nullptr);
@@ -27,6 +32,20 @@ public:
     LabeledHexSpinBoxImpl* hexSpinBox() const;
     /// Replaces the spin box's line edit, which the spin box then owns.
     void setLineEdit(QLineEdit* edit);
+
+    /// The spin box's value, range and digits, so that forms can set them.
+    int value() const;
+    int minimum() const;
+    void setMinimum(int minimum);
+    int maximum() const;
+    void setMaximum(int maximum);
+    int textWidth() const;
+    void setTextWidth(int width);
+    bool upperCase() const;
+    void setUpperCase(bool upperCase);
+
+public Q_SLOTS:
+    void setValue(int value);
 
 Q_SIGNALS:
     void valueChanged(int value);

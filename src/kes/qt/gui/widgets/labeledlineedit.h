@@ -16,6 +16,7 @@ struct LabeledLineEditPrivate;
 class KES_QT_EXPORT LabeledLineEdit : public AbstractLabeledWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
 
 public:
     explicit LabeledLineEdit(QWidget* parent = nullptr);
@@ -24,6 +25,12 @@ public:
 
     QWidget* widget() const override;
     QLineEdit* lineEdit() const;
+
+    /// The line edit's text, so that forms can set it.
+    QString text() const;
+
+public Q_SLOTS:
+    void setText(const QString& text);
 
 Q_SIGNALS:
     void cursorPositionChanged(int oldPos, int newPos);

@@ -17,6 +17,9 @@ struct LabeledSpinBoxPrivate;
 class KES_QT_EXPORT LabeledSpinBox : public AbstractLabeledWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int value READ value WRITE setValue)
 
 public:
     explicit LabeledSpinBox(QWidget* parent = nullptr);
@@ -27,6 +30,16 @@ public:
     LabeledSpinBoxImpl* spinBox() const;
     /// Replaces the spin box's line edit, which the spin box then owns.
     void setLineEdit(QLineEdit* edit);
+
+    /// The spin box's value and range, so that forms can set them.
+    int value() const;
+    int minimum() const;
+    void setMinimum(int minimum);
+    int maximum() const;
+    void setMaximum(int maximum);
+
+public Q_SLOTS:
+    void setValue(int value);
 
 Q_SIGNALS:
     void valueChanged(int value);

@@ -18,11 +18,13 @@ class ProgressPrivate;
 class KES_QT_EXPORT Progress : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
 
 public:
     explicit Progress(QWidget* parent = nullptr, bool showCancelButton = false, const QString& title = QString());
     ~Progress() override;
 
+    QString title() const;
     void setTitle(const QString& title);
 
 Q_SIGNALS:

@@ -23,6 +23,7 @@ struct SpinBoxPrivate;
 class KES_QT_EXPORT SpinBox : public QSpinBox, public Widget, public UserData<void*>
 {
     Q_OBJECT
+    Q_PROPERTY(bool displayStyleTracking READ displayStyleTracking WRITE setDisplayStyleTracking)
 
 public:
     SpinBox();
