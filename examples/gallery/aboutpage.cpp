@@ -3,9 +3,11 @@
 #include "flowlayout.h"
 #include "style.h"
 
+#include <kes/qt/gui/widgets/hyperlabel.h>
 #include <kes/qt/version.h>
 
 #include <QDir>
+#include <QFileInfo>
 #include <QFont>
 #include <QFontMetrics>
 #include <QFormLayout>
@@ -16,6 +18,7 @@
 #include <QPixmap>
 #include <QScrollArea>
 #include <QStringView>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -34,6 +37,13 @@ constexpr int iconTilePadding = 4;
 constexpr int iconCellPadding = 10;
 constexpr qreal iconNameScale = 0.9;
 constexpr int descriptionMaxWidth = 540;
+
+// The API documentation of this build (docs/ of the build folder), if it was generated.
+QString docsFile(const QString& name)
+{
+    const QString folder = QStringLiteral(KES_GALLERY_DOCS_DIR);
+    return folder.isEmpty() ? QString() : QDir(folder).filePath(name);
+}
 
 bool isAsciiDigit(QChar c)
 {
@@ -145,6 +155,7 @@ AboutPage::AboutPage(QWidget* parent)
     m_heading = new QLabel(libraryName, content);
     scaleFont(m_heading, 2.0, true);
     m_tagline = new QLabel(content);
+    m_tagline->setWordWrap(true);
     scaleFont(m_tagline, 1.15, false);
     muteText(m_tagline);
     m_description = paragraph(descriptionMaxWidth, content);
@@ -176,15 +187,45 @@ AboutPage::AboutPage(QWidget* parent)
     versionRows->addRow(m_qtRuntimeLabel, m_qtRuntime);
     versionRows->addRow(m_qtCompiledLabel, m_qtCompiled);
 
+    // The reference opens in the browser; the Qt help file is for Qt Assistant and Qt Creator.
+    m_docsHeading = sectionHeading(content);
+    m_referenceLabel = new QLabel(content);
+    m_reference = new kes::qt::gui::widgets::HyperLabel(content);
+    m_reference->setObjectName(QStringLiteral("apiReference"));
+    const QString index = docsFile(QStringLiteral("html/index.html"));
+    if (QFileInfo::exists(index))
+        m_reference->setLink(QUrl::fromLocalFile(index).toString());
+    m_helpFileLabel = new QLabel(content);
+    const QString helpFile = docsFile(QStringLiteral("kes_qt.qch"));
+    m_helpFile = selectableValue(QString(), content);
+    m_helpFile->setObjectName(QStringLiteral("helpFile"));
+    if (QFileInfo::exists(helpFile)) {
+        // A build folder's path is long: the label shows the file name, the tooltip where it is.
+        m_helpFile->setText(QFileInfo(helpFile).fileName());
+        m_helpFile->setToolTip(QDir::toNativeSeparators(helpFile));
+    }
+
+    auto* docsRows = new QFormLayout;
+    docsRows->setContentsMargins(0, 0, 0, 0);
+    docsRows->setLabelAlignment(Qt::AlignLeft);
+    docsRows->setFormAlignment(Qt::AlignLeft | Qt::AlignTop);
+    docsRows->setHorizontalSpacing(16);
+    docsRows->setVerticalSpacing(6);
+    docsRows->addRow(m_referenceLabel, m_reference);
+    docsRows->addRow(m_helpFileLabel, m_helpFile);
+
     auto* versions = new QVBoxLayout;
     versions->setSpacing(8);
     versions->addWidget(m_versionsHeading);
     versions->addLayout(versionRows);
+    versions->addSpacing(10);
+    versions->addWidget(m_docsHeading);
+    versions->addLayout(docsRows);
     versions->addStretch(1);
 
     // Side by side, the introduction and the versions leave most of the page's height to the icons.
     auto* overview = new QHBoxLayout;
-    overview->setSpacing(40);
+    overview->setSpacing(28);
     overview->addLayout(introduction);
     overview->addLayout(versions);
     overview->addStretch(1);
@@ -205,6 +246,8 @@ AboutPage::AboutPage(QWidget* parent)
     auto* scrollArea = new QScrollArea(this);
     scrollArea->setFrameShape(QFrame::NoFrame);
     scrollArea->setWidgetResizable(true);
+    // The icons flow to the width and the text wraps, so the page only ever scrolls down.
+    scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scrollArea->setWidget(content);
 
     auto* pageLayout = new QVBoxLayout(this);
@@ -245,6 +288,14 @@ void AboutPage::retranslate()
                                         .arg(runtimeVersion, headerVersion));
     m_qtRuntimeLabel->setText(tr("Qt at run time:"));
     m_qtCompiledLabel->setText(tr("Qt at compile time:"));
+
+    m_docsHeading->setText(tr("Documentation"));
+    m_referenceLabel->setText(tr("API reference:"));
+    m_helpFileLabel->setText(tr("Qt help file:"));
+    // Without a generated reference the label says so, as plain text.
+    m_reference->setText(m_reference->link().isEmpty() ? tr("not generated") : tr("HTML"));
+    if (m_helpFile->toolTip().isEmpty())
+        m_helpFile->setText(tr("not generated"));
 
     m_iconsHeading->setText(tr("Icons"));
     m_iconsNote->setText(

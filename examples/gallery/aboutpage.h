@@ -5,6 +5,10 @@
 
 class QLabel;
 
+namespace kes::qt::gui::widgets {
+class HyperLabel;
+}
+
 namespace kes::gallery {
 
 /// What the library is, which versions are in use, and every icon the library ships.
@@ -37,6 +41,11 @@ private:
     QLabel* m_qtRuntime = nullptr;
     QLabel* m_qtCompiledLabel = nullptr;
     QLabel* m_qtCompiled = nullptr;
+    QLabel* m_docsHeading = nullptr;
+    QLabel* m_referenceLabel = nullptr;
+    kes::qt::gui::widgets::HyperLabel* m_reference = nullptr;
+    QLabel* m_helpFileLabel = nullptr;
+    QLabel* m_helpFile = nullptr;
     QLabel* m_iconsHeading = nullptr;
     QLabel* m_iconsNote = nullptr;
     int m_iconCount = 0;

@@ -224,6 +224,7 @@ CameraPage::CameraPage(QWidget* parent)
     layout->addLayout(saveRow);
     layout->addSpacing(8);
 
+    //! [finder-setup]
     m_finder = new kes::qt::colorrangefinder::Dialog(this);
     m_finder->setObjectName(QStringLiteral("finder"));
     // The range finder's six boxes stand in one row; in a narrow window it scrolls sideways.
@@ -242,6 +243,7 @@ CameraPage::CameraPage(QWidget* parent)
         m_view->setSegmentDrawingEnabled(true, -1);
         m_view->setOverlayDrawingEnabled(true);
     }
+    //! [finder-setup]
 
     m_timer = new QTimer(this);
     m_timer->setInterval(1000 / 30);
@@ -317,8 +319,10 @@ void CameraPage::nextFrame()
         m_view->setHighlightedSegment(highlighted);
     }
     m_segments = int(segments.size());
+    //! [finder-frame]
     m_finder->setImage(frame);
     m_finder->setResultImage(result);
+    //! [finder-frame]
     showStatus();
 }
 

@@ -50,12 +50,14 @@ CurveEditorPage::CurveEditorPage(QWidget* parent)
     layout->addWidget(m_limits);
     layout->addSpacing(14);
 
+    //! [editor-setup]
     m_editor = new kes::qt::discreteapproximator::View(this);
     m_editor->setObjectName(QStringLiteral("curveEditor"));
     m_editor->setXRange(voltageMin, voltageMax);
     m_editor->setYRange(openingMin, openingMax);
     m_editor->setData(valveCurve());
     m_editor->setShowPointEnabled(true);
+    //! [editor-setup]
 
     m_sliderLabel = new QLabel(this);
     m_slider = new QSlider(Qt::Horizontal, this);
@@ -103,7 +105,9 @@ CurveEditorPage::CurveEditorPage(QWidget* parent)
     row->addLayout(pointsColumn);
     layout->addLayout(row, 1);
 
+    //! [editor-signal]
     connect(m_editor, SIGNAL(dataChanged()), this, SLOT(onDataChanged()));
+    //! [editor-signal]
     // The main window finds the stack among the page's children and offers it in its Edit menu.
     auto* undoStack = new QUndoStack(this);
     undoStack->setObjectName(QStringLiteral("curveUndoStack"));

@@ -74,6 +74,7 @@ InputWidgetsPage::InputWidgetsPage(QWidget* parent)
     scaleFont(m_formHeading, 1.0, true);
 
     m_exposureLabel = new QLabel(this);
+    //! [input-setup]
     m_exposure = new widgets::ScienceSpinBox(this);
     m_exposure->setObjectName(QStringLiteral("exposure"));
     m_exposure->setRange(1e-6, 10.0);
@@ -108,6 +109,7 @@ InputWidgetsPage::InputWidgetsPage(QWidget* parent)
     m_address->hexSpinBox()->setUpperCase(true);
     m_address->hexSpinBox()->setPrefix(QStringLiteral("0x"));
     m_address->hexSpinBox()->setValue(0x3500);
+    //! [input-setup]
     m_registerValue = new widgets::LabeledHexSpinBox(this);
     m_registerValue->setObjectName(QStringLiteral("registerValue"));
     m_registerValue->hexSpinBox()->setPrefix(QStringLiteral("0x"));
@@ -198,8 +200,10 @@ InputWidgetsPage::InputWidgetsPage(QWidget* parent)
         connect(editor, SIGNAL(editingFinished(void*)), this, SLOT(onEditingFinished(void*)));
         connect(editor, SIGNAL(lostFocus()), this, SLOT(onLostFocus()));
     }
+    //! [input-signals]
     connect(m_gain, SIGNAL(valueChanged(double, void*)), this, SLOT(onValueChanged(double, void*)));
     connect(m_offset, SIGNAL(valueChanged(int, void*)), this, SLOT(onValueChanged(int, void*)));
+    //! [input-signals]
     connect(m_mode, SIGNAL(activated(const QString&, void*)), this,
             SLOT(onActivated(const QString&, void*)));
     connect(m_mode, SIGNAL(editTextChanged(const QString&, void*)), this,

@@ -136,10 +136,12 @@ LaserPage::LaserPage(QWidget* parent)
     layout->addWidget(m_description);
     layout->addSpacing(10);
 
+    //! [laser-setup]
     m_scene = new kes::qt::laserrangefinder::AnalysisScene(this);
     m_view = new kes::qt::laserrangefinder::View(this);
     m_view->setObjectName(QStringLiteral("view"));
     m_view->setScene(m_scene);
+    //! [laser-setup]
 
     const auto spinBox = [this](const char* name, double min, double max, double step, int decimals, double value,
                                 const QString& suffix) {
@@ -275,9 +277,11 @@ void LaserPage::nextScan()
 {
     const double seconds = m_clock.isValid() ? m_clock.elapsed() / 1000.0 : 0.0;
     m_last = m_scanner.scan(seconds + 3.0);
+    //! [laser-scan]
     m_scene->setData(m_last);
     // The sector is cut to the field of view, which only the application knows to have changed.
     m_scene->updateGraphic();
+    //! [laser-scan]
 
     // What an application would do with the sector: count the echoes inside it.
     const double direction = m_direction->value();

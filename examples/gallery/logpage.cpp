@@ -84,6 +84,7 @@ LogPage::LogPage(MainWindow& window, QWidget* parent)
     : Page(parent)
     , m_mainWindow(window)
 {
+    //! [log-window]
     m_logAction = window.viewMenu()->addAction(QString());
     m_logAction->setCheckable(true);
     m_logWindow = new kes::qt::log::Window(m_logAction, &window);
@@ -92,6 +93,7 @@ LogPage::LogPage(MainWindow& window, QWidget* parent)
     // The panel leaves following the language to the application.
     connect(&kes::qt::translation::Manager::singleton(), SIGNAL(languageChanged()), m_logWindow,
             SLOT(translate()));
+    //! [log-window]
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 18, 28, 18);
@@ -285,11 +287,13 @@ void LogPage::logFromGui()
 
 void LogPage::logFromCout()
 {
+    //! [redirector]
     const kes::qt::log::OStreamRedirector redirector(std::cout, *Log::singleton());
     std::cout << "std::cout: calibration started" << std::endl;
     std::cout << "std::cout: reprojection error " << 0.042 << " px\n";
     std::cout << "std::cout: r\xe9sultat enregistr\xe9 (Latin-1)\n";
     std::cout << "std::cout: an unfinished line";
+    //! [redirector]
 }
 
 void LogPage::logFromCore()

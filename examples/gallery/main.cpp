@@ -56,6 +56,7 @@ void addPages(MainWindow& window)
 
 // The log hub for the whole run; declared before the window, whose log panel shows it, so that it
 // goes after it.
+//! [log-hub]
 class LogHub
 {
 public:
@@ -69,6 +70,7 @@ public:
     LogHub(const LogHub&) = delete;
     LogHub& operator=(const LogHub&) = delete;
 };
+//! [log-hub]
 
 bool hasOption(int argc, char** argv, std::initializer_list<const char*> names)
 {
@@ -201,6 +203,7 @@ int main(int argc, char** argv)
         redirectSettings(*settingsDirectory, !earlyParser.isSet(earlyOptions.screenshot));
     }
 
+    //! [languages]
     // Qt's own texts (the colour dialog, a text field's Undo/Cut/Paste menu) come from Qt's
     // catalogues, which the language manager looks for first where QTTRANSLATIONDIR points.
     if (qEnvironmentVariableIsEmpty("QTTRANSLATIONDIR")) {
@@ -215,6 +218,7 @@ int main(int argc, char** argv)
         err << Main::tr("Cannot read the language list %1").arg(languageList) << '\n';
         return 1;
     }
+    //! [languages]
     // An unknown code is reported after the second pass, in the language it leaves in place.
     if (earlyParser.isSet(earlyOptions.language)) {
         const QString code = earlyParser.value(earlyOptions.language);
@@ -249,7 +253,9 @@ int main(int argc, char** argv)
     const LogHub logHub;
     MainWindow window;
     addPages(window);
+    //! [language-menu]
     window.insertMenu(new kes::qt::translation::Menu);
+    //! [language-menu]
 
     if (parser.isSet(options.page)) {
         const QString id = parser.value(options.page);

@@ -98,9 +98,11 @@ MainWindow::MainWindow(QWidget* parent)
     m_openAction->setShortcut(QKeySequence::Open);
     connect(m_openAction, &QAction::triggered, this, &MainWindow::openFile);
 
+    //! [file-history]
     m_fileHistory = new kes::qt::FileHistory(this);
     m_fileHistory->menu()->setObjectName(QStringLiteral("recentFilesMenu"));
     connect(m_fileHistory, SIGNAL(triggered(QString)), this, SLOT(openRecentFile(QString)));
+    //! [file-history]
 
     m_fileMenu = menuBar()->addMenu(QString());
     m_fileMenu->addAction(m_openAction);
@@ -115,12 +117,14 @@ MainWindow::MainWindow(QWidget* parent)
     m_settingsAction->setMenuRole(QAction::PreferencesRole);
     connect(m_settingsAction, &QAction::triggered, this, &MainWindow::showSettings);
     m_editMenu = menuBar()->addMenu(QString());
+    //! [undo-actions]
     QAction* undo = kes::qt::UndoAction::createUndoAction(m_undoGroup, this);
     undo->setObjectName(QStringLiteral("undoAction"));
     QAction* redo = kes::qt::UndoAction::createRedoAction(m_undoGroup, this);
     redo->setObjectName(QStringLiteral("redoAction"));
     m_editMenu->addAction(undo);
     m_editMenu->addAction(redo);
+    //! [undo-actions]
     m_editMenu->addSeparator();
     m_editMenu->addAction(m_settingsAction);
 

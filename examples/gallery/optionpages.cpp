@@ -235,6 +235,7 @@ kes::qt::gui::option::Dialog* createOptionsDialog(MainWindow& window, QAction* a
     setTitle();
     QObject::connect(&Manager::singleton(), &Manager::languageChanged, dialog, setTitle);
     // Directory names are translated by the tree itself, in the context given here.
+    //! [options-dialog]
     auto* general = dialog->addDir(QT_TRANSLATE_NOOP("kes::gallery::OptionsDialog", "General"),
                                    "kes::gallery::OptionsDialog");
     dialog->addPage(new LanguageOptionPage, general);
@@ -242,6 +243,7 @@ kes::qt::gui::option::Dialog* createOptionsDialog(MainWindow& window, QAction* a
     auto* live = dialog->addDir(QT_TRANSLATE_NOOP("kes::gallery::OptionsDialog", "Live pages"),
                                 "kes::gallery::OptionsDialog");
     dialog->addPage(new FrameRateOptionPage(window), live);
+    //! [options-dialog]
     if (auto* view = dialog->findChild<QTreeView*>(QStringLiteral("treeView"))) {
         view->expandAll();
     }

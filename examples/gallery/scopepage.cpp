@@ -111,6 +111,7 @@ ScopePage::ScopePage(QWidget* parent)
     layout->addWidget(controls);
     layout->addSpacing(10);
 
+    //! [scope-setup]
     m_view = new View(this);
     m_view->setObjectName(QStringLiteral("view"));
     m_view->setXAxisTitle(QStringLiteral("Time [ms]"));
@@ -125,6 +126,7 @@ ScopePage::ScopePage(QWidget* parent)
     m_view->setTrigger(0, kes::qt::scope::TriggerRisingEdge);
     m_view->setTriggerPosition(0, initialLevel);
     m_view->setTrigger(1, Trigger_t(0));
+    //! [scope-setup]
     layout->addWidget(m_view, 1);
 
     m_sampleTimer = new QTimer(this);
@@ -134,7 +136,9 @@ ScopePage::ScopePage(QWidget* parent)
     GallerySettings& settings = GallerySettings::instance();
     settings.declareFrameRate(id(), 30);
     m_frameTimer->setInterval(1000 / settings.frameRate(id()));
+    //! [scope-redraw]
     connect(m_frameTimer, SIGNAL(timeout()), m_view, SLOT(redraw()));
+    //! [scope-redraw]
     connect(&settings, SIGNAL(frameRateChanged(QString, int)), this,
             SLOT(applyFrameRate(QString, int)));
 
@@ -200,11 +204,13 @@ void ScopePage::addSamples()
     const qint64 due = m_clock.elapsed();
     if (due - m_samples > maxBatch)
         m_samples = due - maxBatch;
+    //! [scope-samples]
     for (; m_samples < due; ++m_samples) {
         const double t = double(m_samples);
         for (int c = 0; c < m_view->numChannels(); ++c)
             m_view->addPoint(c, t, signal(c, t));
     }
+    //! [scope-samples]
 }
 
 void ScopePage::on_channels_valueChanged(int count)

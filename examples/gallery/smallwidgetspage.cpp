@@ -282,10 +282,12 @@ void SmallWidgetsPage::showInformation()
 
 void SmallWidgetsPage::showWarning()
 {
+    //! [balloon]
     showBalloon(BalloonToolTip::warning(m_warning, tr("Exposure clipped"),
                                         tr("12 % of the pixels are saturated. Lower the gain or "
                                            "the exposure time."),
                                         topCentre(m_warning)));
+    //! [balloon]
 }
 
 void SmallWidgetsPage::showCritical()

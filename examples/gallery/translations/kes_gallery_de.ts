@@ -68,6 +68,26 @@
         <source>No icons found under %1.</source>
         <translation>Unter %1 wurden keine Symbole gefunden.</translation>
     </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Dokumentation</translation>
+    </message>
+    <message>
+        <source>API reference:</source>
+        <translation>API-Referenz:</translation>
+    </message>
+    <message>
+        <source>Qt help file:</source>
+        <translation>Qt-Hilfedatei:</translation>
+    </message>
+    <message>
+        <source>not generated</source>
+        <translation>nicht erzeugt</translation>
+    </message>
+    <message>
+        <source>HTML</source>
+        <translation>HTML</translation>
+    </message>
 </context>
 <context>
     <name>kes::gallery::CameraPage</name>

@@ -68,6 +68,26 @@
         <source>No icons found under %1.</source>
         <translation>No se encontraron iconos bajo %1.</translation>
     </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentación</translation>
+    </message>
+    <message>
+        <source>API reference:</source>
+        <translation>Referencia de la API:</translation>
+    </message>
+    <message>
+        <source>Qt help file:</source>
+        <translation>Archivo de ayuda de Qt:</translation>
+    </message>
+    <message>
+        <source>not generated</source>
+        <translation>no disponible</translation>
+    </message>
+    <message>
+        <source>HTML</source>
+        <translation>HTML</translation>
+    </message>
 </context>
 <context>
     <name>kes::gallery::CameraPage</name>

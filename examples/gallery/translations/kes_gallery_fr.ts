@@ -68,6 +68,26 @@
         <source>No icons found under %1.</source>
         <translation>Aucune icône trouvée sous %1.</translation>
     </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentation</translation>
+    </message>
+    <message>
+        <source>API reference:</source>
+        <translation>Référence de l&apos;API&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Qt help file:</source>
+        <translation>Fichier d&apos;aide Qt&#xa0;:</translation>
+    </message>
+    <message>
+        <source>not generated</source>
+        <translation>non disponible</translation>
+    </message>
+    <message>
+        <source>HTML</source>
+        <translation>HTML</translation>
+    </message>
 </context>
 <context>
     <name>kes::gallery::CameraPage</name>

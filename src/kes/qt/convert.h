@@ -43,9 +43,13 @@ KES_QT_EXPORT kes::core::StringList convert(const QStringList& list);
 KES_QT_EXPORT int qtVersion();
 
 // Plain pass-throughs on this platform: what they store is plain UTF-8 and the key is not used.
+/// \a text as UTF-8 bytes: stored settings stay readable on this platform.
 KES_QT_EXPORT QByteArray encryptString(const QString& text, const QByteArray& key);
+/// \a data unchanged.
 KES_QT_EXPORT QByteArray encryptString(const QByteArray& data, const QByteArray& key);
+/// \a data decoded as UTF-8.
 KES_QT_EXPORT QString decryptString(const QByteArray& data, const QByteArray& key);
+/// \a data unchanged.
 KES_QT_EXPORT QByteArray decryptStringToUtf8(const QByteArray& data, const QByteArray& key);
 
 /// Does nothing on this platform; callers must not rely on it.

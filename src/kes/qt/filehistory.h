@@ -30,6 +30,7 @@ class KES_QT_EXPORT FileHistory : public QObject
     Q_OBJECT
 
 public:
+    /// Reads the stored list, without duplicates and files that are gone, and builds the menu.
     explicit FileHistory(QObject* parent = nullptr);
     ~FileHistory() override;
 
@@ -37,6 +38,7 @@ public:
     void add(const QFileInfo& file);
     /// The stored list as it is, unfiltered.
     QStringList history() const;
+    /// Whether the stored list has no entry.
     bool isEmpty() const;
 
     /// The menu for the application to insert into its own; owned by the history unless the
@@ -44,6 +46,7 @@ public:
     QMenu* menu() const;
 
 Q_SIGNALS:
+    /// The user picked \a fileName, an absolute path, from the menu.
     void triggered(const QString& fileName);
 
 protected Q_SLOTS:

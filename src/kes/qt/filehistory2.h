@@ -16,14 +16,17 @@ class KES_QT_EXPORT FileHistory2 : public FileHistory
     Q_OBJECT
 
 public:
+    /// A numbered history of file names, as FileHistory reads it.
     explicit FileHistory2(QObject* parent = nullptr);
     ~FileHistory2() override;
 
     /// Entries carry a keyboard mnemonic number; true by default.
     bool isNumbered() const;
+    /// Numbers the entries from the next opening of the menu on.
     void setNumbered(bool numbered);
     /// Entries show the file name without its directory; true by default.
     bool isFileNameOnly() const;
+    /// Shows file names only, or whole paths, from the next opening of the menu on.
     void setFileNameOnly(bool fileNameOnly);
 
 protected Q_SLOTS:

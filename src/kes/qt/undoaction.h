@@ -36,16 +36,22 @@ public:
     /// Actions enabled, labelled and triggering like QUndoStack::createUndoAction() and its
     /// relatives, owned by \a parent.
     static UndoAction* createUndoAction(QUndoStack* stack, QObject* parent);
+    /// The redo action of \a stack; see createUndoAction().
     static UndoAction* createRedoAction(QUndoStack* stack, QObject* parent);
+    /// The undo action of \a group's active stack.
     static UndoAction* createUndoAction(QUndoGroup* group, QObject* parent);
+    /// The redo action of \a group's active stack.
     static UndoAction* createRedoAction(QUndoGroup* group, QObject* parent);
 
+    /// Whether the action redoes rather than undoes.
     bool isRedo() const;
     /// The description last received from the stack or group.
     QString prefixedText() const;
 
 public Q_SLOTS:
+    /// Takes the stack's description of the command and labels the action anew.
     void setPrefixedText(const QString& text);
+    /// Labels the action in the current language.
     void translate();
 
 private:

@@ -15,7 +15,9 @@ namespace kes::qt {
 class KES_QT_EXPORT UndoCommand : public QUndoCommand
 {
 public:
+    /// A command without a text; as a child of \a parent if given.
     explicit UndoCommand(QUndoCommand* parent = nullptr);
+    /// A command described by \a text; as a child of \a parent if given.
     explicit UndoCommand(const QString& text, QUndoCommand* parent = nullptr);
     ~UndoCommand() override;
 

@@ -20,6 +20,7 @@ class KES_QT_EXPORT ColorBox : public QListWidget
     Q_OBJECT
 
 public:
+    /// An empty list in icon mode; updateColors() fills it.
     explicit ColorBox(QWidget* parent = nullptr);
     ~ColorBox() override;
 

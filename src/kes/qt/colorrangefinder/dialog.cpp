@@ -152,6 +152,11 @@ void Dialog::setRangeModifiersEnabled(bool enable)
     d->paste->setEnabled(enable);
 }
 
+bool Dialog::rangeModifiersEnabled() const
+{
+    return d->paste->isEnabledTo(this);
+}
+
 void Dialog::updateColors()
 {
     d->colorBox->updateColors(d->spinBoxGroup->ranges());

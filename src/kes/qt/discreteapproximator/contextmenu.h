@@ -29,14 +29,21 @@ public:
     /// clipboard" while the clipboard holds no text; the model's help action, if any, comes last.
     void init();
 
+    /// The row the menu acts on, -1 for none.
     int row() const;
 
 public Q_SLOTS:
+    /// Inserts a point in front of the menu's row.
     void on_insertPointBefore();
+    /// Inserts a point behind the menu's row.
     void on_insertPointAfter();
+    /// Removes the point of the menu's row.
     void on_removePoint();
+    /// Replaces the points with the clipboard's lines of x and y.
     void on_importFromClipboard();
+    /// Puts the points on the clipboard, one "x<tab>y" line each.
     void on_exportToClipboard();
+    /// Names the entries in the current language.
     void translate();
 
 private:

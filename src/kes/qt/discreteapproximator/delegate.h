@@ -23,12 +23,16 @@ public:
     explicit Delegate(Model* model, QObject* parent = nullptr);
     ~Delegate() override;
 
+    /// A line edit without a validator: the model judges the text when it is committed.
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     /// The coordinate with 6 significant digits, one fewer than the table shows.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    /// Hands the text to the model's validated edit as a number, a comma read as a decimal point;
+    /// text that is no number reads as 0.
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override;
+    /// The editor covers the cell.
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
 

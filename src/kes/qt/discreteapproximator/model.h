@@ -33,16 +33,21 @@ class KES_QT_EXPORT Model : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// The point list, shared copy-on-write.
     using Points = kes::core::Vector<kes::core::PointF>;
 
+    /// Starts with createDefaultData(), no selected row and the absolute limits.
     explicit Model(QObject* parent = nullptr);
     ~Model() override;
 
     /// The default limits: the range of a signed 32-bit integer.
     static double absoluteMinimum();
+    /// The largest signed 32-bit integer.
     static double absoluteMaximum();
 
+    /// One row per point.
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    /// x and y.
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     /// The display and the edit role both give the text of dataDisplayRole().
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
@@ -51,6 +56,7 @@ public:
     /// "x" and "y" across, the rows numbered from 0 down.
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
+    /// Every cell is editable.
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     /// A validated edit of one cell in the edit role; emits modelDataChanged() when accepted.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
@@ -59,17 +65,21 @@ public:
     /// installs createDefaultData(). Clears the selected row.
     void setData(const Points& points);
 
+    /// setDataEditRole_i() followed by modelDataChanged() when the edit was taken.
     bool setDataEditRole(const QModelIndex& index, const QVariant& value);
     /// Stores value.toDouble() in the cell if it lies within the limits and, for x, does not pass
     /// a neighbour's x. Not-a-number is refused.
     bool setDataEditRole_i(const QModelIndex& index, const QVariant& value);
 
+    /// movePoint_i() followed by modelDataChanged() when either coordinate was taken.
     bool movePoint(int row, const kes::core::PointF& p);
     /// Applies p.x and then p.y through setDataEditRole_i(); each coordinate succeeds or fails on
     /// its own. True if either was taken; false for an unchanged point.
     bool movePoint_i(int row, const kes::core::PointF& p);
 
+    /// insertPointBefore_i() followed by modelDataChanged().
     void insertPointBefore(int row);
+    /// Inserts a generated point behind \a row, as insertPointBefore_i(row + 1) does, and emits modelDataChanged().
     void insertPointAfter(int row);
     /// Inserts a generated point at \a row (0 to rowCount()): one step left of the first point,
     /// one step right of the last, or midway in x between two points, with the y of the point it
@@ -80,6 +90,7 @@ public:
     /// modelDataChanged() once.
     void insertPoint(const kes::core::PointF& p);
 
+    /// removePoint_i() followed by modelDataChanged().
     void removePoint(int row);
     /// No lower limit on the number of points; the selected row is left as it is.
     bool removePoint_i(int row);
@@ -87,20 +98,28 @@ public:
     /// Selects \a row (-1 for none) and announces it with selectedPointChanged(); a row out of
     /// range is ignored.
     void setSelectedPoint(int row, int column);
+    /// The selected row, -1 for none.
     int selectedRow() const;
 
     /// Admissible ranges, applied to later edits only.
     void setXRange(double min, double max);
+    /// Admissible y range for later edits.
     void setYRange(double min, double max);
+    /// The lowest x an edit may set.
     double xMinimum() const;
+    /// The highest x an edit may set.
     double xMaximum() const;
+    /// The lowest y an edit may set.
     double yMinimum() const;
+    /// The highest y an edit may set.
     double yMaximum() const;
 
     /// Offered by the context menu when set; not owned.
     QAction* helpAction() const;
+    /// Sets the action the context menu offers last; not owned, null for none.
     void setHelpAction(QAction* action);
 
+    /// The points in table order.
     const Points& points() const;
 
     /// One "x<tab>y" line per point, 6 significant digits, lines joined by "\n".

@@ -24,6 +24,7 @@ public:
     ~TableView() override;
 
 public Q_SLOTS:
+    /// Selects the clicked row's point in the model, so that the graph highlights it.
     void on_clicked(const QModelIndex& index);
     /// Makes \a index the current cell, so that a selection in the graph or a new point shows.
     void on_selectedPointChanged(const QModelIndex& index);

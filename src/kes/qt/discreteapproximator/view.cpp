@@ -1,6 +1,8 @@
 #include <kes/qt/discreteapproximator/view.h>
 
 #include <kes/qt/discreteapproximator/model.h>
+#include <kes/qt/discreteapproximator/schematic/coordsystem.h>
+#include <kes/qt/discreteapproximator/schematic/cross.h>
 #include <kes/qt/discreteapproximator/schematic/model.h>
 #include <kes/qt/discreteapproximator/schematic/view.h>
 #include <kes/qt/discreteapproximator/tableview.h>
@@ -85,9 +87,19 @@ void View::setYRange(double min, double max)
     d->model->setYRange(min, max);
 }
 
+QString View::xAxisText() const
+{
+    return d->scene->coordsystem()->xAxisText();
+}
+
 void View::setXAxisText(const QString& text)
 {
     d->scene->setXAxisText(text);
+}
+
+QString View::yAxisText() const
+{
+    return d->scene->coordsystem()->yAxisText();
 }
 
 void View::setYAxisText(const QString& text)
@@ -108,6 +120,11 @@ void View::setPoint(double x, double y)
 void View::setShowPointEnabled(bool enabled)
 {
     d->scene->setShowPointEnabled(enabled);
+}
+
+bool View::showPointEnabled() const
+{
+    return d->scene->cross()->isVisible();
 }
 
 void View::setHelpAction(QAction* action)

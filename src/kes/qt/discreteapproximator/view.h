@@ -32,13 +32,21 @@ class View;
 class KES_QT_EXPORT View : public QTabWidget
 {
     Q_OBJECT
+    /// The text at the arrow end of the graph's x axis.
+    Q_PROPERTY(QString xAxisText READ xAxisText WRITE setXAxisText)
+    /// The text at the arrow end of the graph's y axis.
+    Q_PROPERTY(QString yAxisText READ yAxisText WRITE setYAxisText)
+    /// Whether the operating point's cross shows; off at first.
+    Q_PROPERTY(bool showPointEnabled READ showPointEnabled WRITE setShowPointEnabled)
 
 public:
+    /// Graph and table tabs on one model, following the language manager.
     explicit View(QWidget* parent = nullptr);
     ~View() override;
 
     /// The default limits of the model: the range of a signed 32-bit integer.
     static double absoluteMinimum();
+    /// The largest signed 32-bit integer.
     static double absoluteMaximum();
 
     /// The points, shared with the editor but never changed by later edits.
@@ -48,23 +56,37 @@ public:
 
     /// Admissible ranges for later edits; points already outside are left as they are.
     void setXRange(double min, double max);
+    /// Admissible y range for later edits.
     void setYRange(double min, double max);
+    /// The text at the arrow end of the graph's x axis.
+    QString xAxisText() const;
+    /// Sets the text at the arrow end of the x axis, typically the quantity and its unit.
     void setXAxisText(const QString& text);
+    /// The text at the arrow end of the graph's y axis.
+    QString yAxisText() const;
+    /// Sets the text at the arrow end of the y axis.
     void setYAxisText(const QString& text);
 
     /// The operating point marked by a cross on the graph.
     void setPoint(const kes::core::PointF& p);
+    /// The operating point (\a x, \a y).
     void setPoint(double x, double y);
     /// Shows or hides the cross; hidden at first.
     void setShowPointEnabled(bool enabled);
+    /// Whether the cross shows.
+    bool showPointEnabled() const;
     /// Offered last in the right-click menus; not owned.
     void setHelpAction(QAction* action);
 
+    /// The point model both tabs edit.
     Model* model() const;
+    /// The graph tab.
     schematic::View* graphicsView() const;
+    /// The table tab.
     TableView* tableView() const;
 
 public Q_SLOTS:
+    /// Names the tabs in the current language.
     void translate();
 
 Q_SIGNALS:

@@ -29,6 +29,7 @@ class KES_QT_EXPORT ImgExportDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// Offers a custom quality if \a qualitySupported and compression if \a compressionSupported, with the choices stored last time.
     explicit ImgExportDialog(bool qualitySupported, bool compressionSupported, QWidget* parent = nullptr,
                              Qt::WindowFlags flags = {});
     ~ImgExportDialog() override;
@@ -44,6 +45,7 @@ public:
     static bool setupWriter(QImageWriter* writer, QWidget* parent = nullptr, Qt::WindowFlags flags = {});
 
 public Q_SLOTS:
+    /// Labels the controls in the current language.
     void translate();
     /// Stores the settings of the enabled controls and the position, then accepts.
     void on_buttons_accepted();

@@ -17,10 +17,12 @@ class KES_QT_EXPORT PolylineItem : public QGraphicsPolygonItem
 public:
     /// Added to \a scene when it is given and \a parent is not (a child follows its parent).
     explicit PolylineItem(QGraphicsItem* parent = nullptr, QGraphicsScene* scene = nullptr);
+    /// An open line through the points of \a polygon; added to \a scene as by the other constructor.
     explicit PolylineItem(const QPolygonF& polygon, QGraphicsItem* parent = nullptr,
                           QGraphicsScene* scene = nullptr);
     ~PolylineItem() override;
 
+    /// The segments between consecutive points, with the item's pen.
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 };
 

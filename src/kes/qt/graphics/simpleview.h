@@ -18,6 +18,7 @@ class KES_QT_EXPORT SimpleView : public QGraphicsView
     Q_OBJECT
 
 public:
+    /// At scale 1, with no scene of its own.
     explicit SimpleView(QWidget* parent = nullptr);
     ~SimpleView() override;
 

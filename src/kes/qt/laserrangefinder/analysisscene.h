@@ -22,6 +22,7 @@ class KES_QT_EXPORT AnalysisScene : public Scene
     Q_OBJECT
 
 public:
+    /// Without a sector until a distance and an opening are set.
     explicit AnalysisScene(QObject* parent = nullptr);
     ~AnalysisScene() override;
 
@@ -34,7 +35,9 @@ public:
     /// Places the sector for the current settings and the last scan's field of view.
     void updateGraphic();
 
+    /// The direction of the sector's middle in degrees, -180 to 180.
     float angle() const;
+    /// The sector's opening in degrees, 0 to 180.
     float openingAngle() const;
     /// In scene units (centimetres).
     float distance() const;

@@ -35,6 +35,7 @@ public:
     /// The largest grid, in metres from the scanner. See resetGrid().
     static constexpr int maxGridMetres = 500;
 
+    /// An empty scene; setData() brings the first scan.
     explicit Scene(QObject* parent = nullptr);
     ~Scene() override;
 
@@ -52,13 +53,19 @@ public:
     const std::vector<QGraphicsEllipseItem*>& points() const;
     /// The grid lines, owned by the scene.
     const std::vector<QGraphicsLineItem*>& gridLines() const;
+    /// The scanner's forward axis, on the scene while a grid is shown; owned by the scene.
     QGraphicsLineItem* xAxis() const;
+    /// The scanner's left axis, on the scene while a grid is shown; owned by the scene.
     QGraphicsLineItem* yAxis() const;
+    /// The field-of-view line of the first beam, on the scene while a scan with finite angles is shown.
     QGraphicsLineItem* angleMinLine() const;
+    /// The field-of-view line of the last beam, on the scene while a scan with finite angles is shown.
     QGraphicsLineItem* angleMaxLine() const;
     /// Of the last scan: metres and radians.
     float rangeMax() const;
+    /// The start angle of the last scan, in radians.
     float angleMin() const;
+    /// The end angle of the last scan, in radians.
     float angleMax() const;
 
 private:

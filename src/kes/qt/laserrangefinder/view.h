@@ -23,6 +23,7 @@ class KES_QT_EXPORT View : public QGraphicsView
     Q_OBJECT
 
 public:
+    /// Without a scene, forward up at one unit per pixel, repainted whole on every change (a scan moves every dot).
     explicit View(QWidget* parent = nullptr);
     ~View() override;
 

@@ -45,12 +45,16 @@ public:
     class KES_QT_EXPORT MessageReceivedEvent : public QEvent
     {
     public:
+        /// The event type, 1000.
         static constexpr QEvent::Type messageReceivedType = QEvent::User;
 
+        /// An event of the application's own, delivered in its place among the posted messages.
         MessageReceivedEvent(int tag, const QString& message);
         ~MessageReceivedEvent() override;
 
+        /// Passed along for event filters; the hub does not read it.
         int tag;
+        /// The line to be written.
         QString message;
 
     private:

@@ -21,6 +21,7 @@ class Log;
 class KES_QT_EXPORT OStreamRedirector : public std::streambuf
 {
 public:
+    /// Takes \a stream's output for \a log until destroyed; \a stream and \a log must outlive the redirector.
     OStreamRedirector(std::ostream& stream, Log& log);
     ~OStreamRedirector() override;
 

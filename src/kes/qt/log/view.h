@@ -22,6 +22,7 @@ class KES_QT_EXPORT View : public QTextEdit
     Q_OBJECT
 
 public:
+    /// Read-only and empty; give it the hub's document with setDocument().
     explicit View(QWidget* parent = nullptr);
     ~View() override;
 
@@ -29,6 +30,7 @@ public:
     void setHelpAction(QAction* action);
 
 public Q_SLOTS:
+    /// Scrolls to the cursor, so that a cursor at the end follows new lines.
     void on_textChanged();
 
 protected:

@@ -35,7 +35,9 @@ public:
     void updateAction();
 
 public Q_SLOTS:
+    /// Titles the panel "Log" in the current language.
     void translate();
+    /// Shows or hides the panel as the toggle action's check mark says.
     void on_logmessage_triggered();
 
 protected:

@@ -31,14 +31,20 @@ enum InterpolationMethod_t : int {
 /// drawing. A plain record held by the view; the view keeps it consistent through its setters.
 struct KES_QT_EXPORT Channel
 {
+    /// Whether the curve is drawn; a disabled channel still collects its samples.
     bool enabled = true;
+    /// The samples since the last trigger or restart, oldest first.
     QVector<QPointF> points;
     double yOffset = 0.0;              ///< in y units, added before scaling
     double xScale = 100.0;             ///< x units per division
     double yScale = 1.0;               ///< y units per division
+    /// Stored for the application; see InterpolationMethod_t.
     InterpolationMethod_t interpolationMethod = InterpolationLinear;
+    /// The colour of the curve, the markers and the channel button.
     QColor color = Qt::black;
+    /// Shown as the title of the channel's menu.
     QString name;
+    /// See Trigger_t.
     Trigger_t trigger = TriggerOff;
     double triggerPosition = 0.0;      ///< trigger level in y units
     double xPixelsPerUnit = 1.0;       ///< derived by the view's refresh
@@ -47,6 +53,7 @@ struct KES_QT_EXPORT Channel
     QPolygonF triggerArrow;            ///< hit area of the trigger marker, widget coordinates
     double lastY = 0.0;                ///< the latest sample's y, stored or not
     QPixmap icon;                      ///< 12 x 12 in the channel colour
+    /// Not used by the library.
     QPixmap sparePixmap;
     QSet<Channel*> followers;          ///< channels whose trigger names this one
     bool triggered = false;            ///< sweep mode rather than free running

@@ -30,16 +30,23 @@ public:
     ChannelMenu(int channel, View* view);
     ~ChannelMenu() override;
 
+    /// The channel edited, -1 for all shown channels.
     int channel() const;
 
 public Q_SLOTS:
+    /// Names the entries in the current language; a single channel's menu is titled with its name.
     void translate();
 
 Q_SIGNALS:
+    /// The user chose \a trigger (a Trigger_t) for \a channel; once per channel for "All channels".
     void triggerChanged(int channel, int trigger);
+    /// The user enabled or disabled \a channel.
     void channelEnabled(int channel, bool enable);
+    /// The user chose a time base of \a scale x units per division.
     void xscaleChanged(int channel, qreal scale);
+    /// The user chose an amplification of \a scale y units per division.
     void yscaleChanged(int channel, qreal scale);
+    /// The user chose \a color (an opaque QRgb) for \a channel.
     void colorChanged(int channel, quint32 color);
 
 private Q_SLOTS:

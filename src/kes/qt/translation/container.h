@@ -75,7 +75,9 @@ private:
     QHash<QString, QHash<QString, QString>> m_byLanguage; // language -> key -> translation
 };
 
+/// A container shared between the loader and the application.
 using ContainerPtr = boost::shared_ptr<Container>;
+/// A shared container that is only read.
 using ConstContainerPtr = boost::shared_ptr<const Container>;
 
 } // namespace kes::qt::translation

@@ -13,6 +13,7 @@ class KES_QT_EXPORT Item
 {
 public:
     Item();
+    /// An item for \a key without translations.
     explicit Item(const QString& key);
 
     /// The source text this item translates; empty in a default-constructed item.
@@ -20,6 +21,7 @@ public:
     /// Translations by language, in plain string order of the languages.
     const QMap<QString, QString>& translations() const { return m_translations; }
 
+    /// Whether there is a translation for \a lang.
     bool contains(const QString& lang) const;
 
     /// The translation for \a lang, even when it is empty; without one, the key if \a fallback is

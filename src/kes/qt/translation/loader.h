@@ -35,7 +35,9 @@ public:
     /// Reads the items of \a section. With abortOnError() false an invalid item is skipped and the
     /// result is true; lastError() then tells the last failure.
     bool parseTranslations(const QDomElement& section);
+    /// Reads one item: its key must be new to the container and each child node must be a valid translation.
     bool parseTranslationItem(const QDomElement& item);
+    /// Reads one translation of \a key through addTranslation().
     bool parseTranslation(const QDomElement& translation, const QString& key);
     /// Validates and stores one translation; an empty \a text is accepted and not stored.
     bool addTranslation(const QString& key, const QString& lang, const QString& text);
@@ -50,6 +52,7 @@ public:
     /// Whether the first invalid item ends a load with failure. False by default: invalid items
     /// are skipped.
     bool abortOnError() const { return m_abortOnError; }
+    /// See abortOnError().
     void setAbortOnError(bool abort) { m_abortOnError = abort; }
 
 private:

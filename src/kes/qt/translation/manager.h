@@ -44,20 +44,25 @@ public:
     /// One offered language.
     struct Language
     {
+        /// The name shown in the menu, as the list file gives it ("Deutsch").
         QString fullName;
+        /// The code of the message files and of the settings ("de").
         QString shortName;
         QAction* action = nullptr;            ///< owned by the manager
         QList<QTranslator*> translators;      ///< owned by the manager; installed while current
     };
 
+    /// The process-wide manager, created at the first call and kept until exit.
     static Manager& singleton();
 
+    /// A manager without languages; most applications use singleton() instead.
     explicit Manager(QObject* parent = nullptr);
     ~Manager() override;
 
     /// Adds a directory searched for the application's ".qm" files by load(). Backslashes become
     /// "/" and a trailing "/" is added; an entry already present is not added again.
     void addTranslatorSearchPath(const QString& path);
+    /// The directories load() searches, the library's own first.
     QStringList translatorSearchPaths() const;
 
     /// Reads the language list file \a fileInfo and sets everything up. False, with nothing
@@ -83,19 +88,26 @@ public:
     /// The index of the current language, -1 before the first selection.
     int currentLanguage() const;
 
+    /// The offered languages in the order of the list file.
     QVector<Language> languages() const;
+    /// The short names of the offered languages, in order.
     QStringList shortNames() const;
+    /// The full names of the offered languages, in order.
     QStringList fullNames() const;
+    /// The checkable action of each language, in order; owned by the manager.
     QList<QAction*> languageActions() const;
 
     /// Indexes of the first matching language (exact, case-sensitive), or -1.
     int languageFromActionName(const QString& text) const;
+    /// The index of the language named \a name in full, or -1.
     int languageFromFullName(const QString& name) const;
+    /// The index of the language with the short name \a name, or -1.
     int languageFromShortName(const QString& name) const;
 
     /// The XML prefix of the attribute and element names read by Loader and written by
     /// Serialiser ("p" makes them read "p:key" and write "p:item"); empty by default.
     QString namespacePrefix() const;
+    /// See namespacePrefix().
     void setNamespacePrefix(const QString& prefix);
 
 Q_SIGNALS:
@@ -103,6 +115,7 @@ Q_SIGNALS:
     void languageChanged();
 
 public Q_SLOTS:
+    /// Selects the language of \a action, unless it is already current.
     void on_actionTriggered(QAction* action);
 
 private:

@@ -21,10 +21,12 @@ class KES_QT_EXPORT Menu : public QMenu
     Q_OBJECT
 
 public:
+    /// Holds the actions of the languages loaded so far.
     explicit Menu(QWidget* parent = nullptr);
     ~Menu() override;
 
 public Q_SLOTS:
+    /// Titles the menu "&Languages" in the current language.
     void translate();
 
 private:

@@ -18,14 +18,18 @@ struct CrossPrivate;
 class KES_QT_EXPORT Cross : public QGraphicsPathItem
 {
 public:
+    /// Half the length of each bar of the cross, in scene pixels.
     static constexpr double _crossSize = 5.0;
 
+    /// Over every other item, at the scene's origin until placed.
     explicit Cross(QGraphicsItem* parent = nullptr);
     ~Cross() override;
 
     /// Stores \a p and shows it as "(x,y)"; placing the cross is the scene's business.
     void setCrossPoint(const kes::core::PointF& p);
+    /// The operating point in data coordinates.
     kes::core::PointF crossPoint() const;
+    /// The coordinates shown under the cross, "(x,y)".
     QString labelText() const;
 
 private:

@@ -16,9 +16,11 @@ struct LinePrivate;
 class KES_QT_EXPORT Line : public QGraphicsLineItem
 {
 public:
+    /// A line of \a scene, which is not owned; the scene lays it out.
     explicit Line(Model* scene, QGraphicsItem* parent = nullptr);
     ~Line() override;
 
+    /// The scene the line belongs to.
     Model* schematic() const;
 
 private:

@@ -21,8 +21,11 @@ public:
     static QString text(const kes::core::PointF& p);
     using QGraphicsSimpleTextItem::text;
 
+    /// The text with the plate around it.
     QRectF boundingRect() const override;
+    /// The whole plate, so that it catches the cursor like the point under it.
     QPainterPath shape() const override;
+    /// A light plate, so that the text stays readable over the curve, and the text on it.
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
                QWidget* widget) override;
 };

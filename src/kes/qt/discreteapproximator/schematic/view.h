@@ -24,12 +24,15 @@ public:
     explicit View(Model* scene, QWidget* parent = nullptr);
     ~View() override;
 
+    /// The scene shown.
     Model* schematic() const;
     /// The view's own translate(dx, dy) stays available beside the slot of the same name.
     using QGraphicsView::translate;
 
 public Q_SLOTS:
+    /// Inserts a point where the right click was.
     void on_insertPoint();
+    /// Names the "Insert point" entry in the current language.
     void translate();
 
 protected:

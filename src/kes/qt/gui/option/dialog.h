@@ -38,15 +38,22 @@ public:
     /// Adds \a page, which the dialog takes over, under \a dir (at the top level for null).
     void addPage(Page* page, TreeItem* dir = nullptr);
 
+    /// Takes size, position and splitter layout from the settings group "gui_option", with defaults for a first run.
     void readSettings();
+    /// Stores size, position and splitter layout and enables the action again.
     void writeSettings();
 
+    /// Closes when every page's finish() agrees; see the class description.
     void accept() override;
+    /// Stores the layout and closes without asking the pages.
     void reject() override;
+    /// Treats the window's close button like Cancel.
     bool eventFilter(QObject* object, QEvent* event) override;
 
 public Q_SLOTS:
+    /// Nothing of its own to translate: the pages and the tree follow the language themselves.
     void translate();
+    /// Shows the page of \a index; a directory changes nothing.
     void on_treeView_clicked(const QModelIndex& index);
 
 protected:

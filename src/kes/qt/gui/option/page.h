@@ -19,6 +19,7 @@ class KES_QT_EXPORT Page : public QWidget
     Q_OBJECT
 
 public:
+    /// An empty page; its window title names it in the tree.
     explicit Page(QWidget* parent = nullptr);
     ~Page() override;
 

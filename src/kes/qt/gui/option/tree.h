@@ -19,6 +19,7 @@ class KES_QT_EXPORT Tree : public QAbstractItemModel
     Q_OBJECT
 
 public:
+    /// An empty tree.
     explicit Tree(QObject* parent = nullptr);
     ~Tree() override;
 
@@ -31,10 +32,15 @@ public:
     /// The invisible root, parent of the top level.
     TreeItem* root() const;
 
+    /// The index of the child at \a row of \a parent; invalid outside the tree.
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
+    /// The index of the directory holding \a index; invalid at the top level.
     QModelIndex parent(const QModelIndex& index) const override;
+    /// The number of children of \a parent.
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    /// One column: the names.
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    /// The item's name in the current language and, for directories, the directory icon.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /// The page of \a index; null for a directory or an invalid index.

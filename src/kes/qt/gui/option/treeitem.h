@@ -32,8 +32,11 @@ public:
     TreeItem(const QString& name, const QString& context, Page* page, TreeItem* parent = nullptr);
     ~TreeItem() override;
 
+    /// The child at \a row, null outside 0 to childCount() - 1.
     TreeItem* child(int row) const;
+    /// The number of children.
     int childCount() const;
+    /// The children in order.
     QList<TreeItem*> childItems() const;
     /// The index in the parent's children; 0 for the root.
     int row() const;
@@ -44,10 +47,14 @@ public:
     void removeChild(TreeItem* item);
     /// Moves the item to \a parent's children (to none for null).
     void setParent(TreeItem* parent);
+    /// The directory holding the item, null for the root.
     TreeItem* parentItem() const;
 
+    /// The source text of a directory's name, as given to the constructor (the tree gives pages none).
     QString name() const;
+    /// The translation context of the name.
     QString context() const;
+    /// The page of a page item, null for a directory.
     Page* page() const;
 
     /// The names from the topmost directory down to this item.
@@ -59,6 +66,7 @@ public:
     static QIcon directoryIcon();
 
 Q_SIGNALS:
+    /// The item's text changed, after a change of language.
     void dataChanged(kes::qt::gui::option::TreeItem* item);
 
 private Q_SLOTS:

@@ -21,6 +21,10 @@ struct AbstractLabeledWidgetPrivate;
 class KES_QT_EXPORT AbstractLabeledWidget : public QWidget
 {
     Q_OBJECT
+    /// The text in front of the field, without the separator.
+    Q_PROPERTY(QString labelText READ labelText WRITE setLabelText)
+    /// What follows the label text; ":" by default.
+    Q_PROPERTY(QString separator READ separator WRITE setSeparator)
 
 public:
     /// An empty label.
@@ -32,10 +36,15 @@ public:
     /// The wrapped input widget.
     virtual QWidget* widget() const = 0;
 
+    /// The label in front of the field.
     QLabel* label() const;
+    /// The label's text without the separator.
     QString labelText() const;
+    /// Shows \a text followed by the separator.
     void setLabelText(const QString& text);
+    /// What follows the label text.
     QString separator() const;
+    /// Sets what follows the label text; empty for nothing.
     void setSeparator(const QString& separator);
 
     /// Puts the label and widget() side by side without margins; the field stretches.
@@ -44,6 +53,7 @@ public:
 public Q_SLOTS:
     /// Applied to the label and the field alike.
     void setEnabled(bool enable);
+    /// The opposite of setEnabled().
     void setDisabled(bool disable);
 
 private:

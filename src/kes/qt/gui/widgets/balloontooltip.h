@@ -28,6 +28,7 @@ class KES_QT_EXPORT BalloonToolTip : public QWidget
     Q_OBJECT
 
 public:
+    /// The kind of message, which chooses the icon and the colour of the title.
     enum MessageType {
         Information = 0,
         Warning = 1,
@@ -50,6 +51,7 @@ public:
     };
     Q_ENUM(Orientation)
 
+    /// Whether the balloon may open on another side than the one requested.
     enum OrientationPolicy {
         /// The requested side is kept even where the balloon does not fit on the screen.
         FixedOrientation = 0,
@@ -59,12 +61,18 @@ public:
     };
     Q_ENUM(OrientationPolicy)
 
+    /// The interval of the fade steps, in milliseconds.
     static constexpr int _timerIntervall = 15;
+    /// The length of a fade in or out, in milliseconds.
     static constexpr int _fadeTime = 150;
+    /// The opacity of a shown balloon while the pointer is not on it; it turns opaque under the pointer.
     static constexpr double _opacity = 0.9;
+    /// The height of the tip, in pixels.
     static constexpr double _triangleSize = 20.0;
+    /// The radius of the rounded corners, in pixels.
     static constexpr double _cornerRadius = 5.0;
 
+    /// A balloon with \a title and \a text whose tip touches \a pos, still hidden: show() fades it in. \a type chooses its icon; \a orientation and \a policy the side it opens on.
     explicit BalloonToolTip(QWidget* parent, const QString& title, const QString& text, const QPoint& pos,
                             MessageType type = Information, Orientation orientation = Automatic,
                             OrientationPolicy policy = AdjustOrientation);
@@ -73,24 +81,31 @@ public:
     /// Balloons created and shown at once; they delete themselves when closed.
     static BalloonToolTip* information(QWidget* parent, const QString& title, const QString& text,
                                        const QPoint& pos);
+    /// A warning balloon, shown at once.
     static BalloonToolTip* warning(QWidget* parent, const QString& title, const QString& text,
                                    const QPoint& pos);
+    /// A balloon for an error, shown at once.
     static BalloonToolTip* critical(QWidget* parent, const QString& title, const QString& text,
                                     const QPoint& pos);
 
+    /// 300 by 150 pixels; the text wraps within it.
     QSize sizeHint() const override;
 
     /// On at first. Switching it off stops a running delay.
     bool autoHide() const;
+    /// Whether the balloon fades out by itself autoHideTime() after showing or after the pointer leaves.
     void setAutoHide(bool autoHide);
     /// The delay of the auto hide after showing or after the pointer leaves; 10000 ms at first.
     int autoHideTime() const;
+    /// Sets the delay of the auto hide in milliseconds.
     void setAutoHideTime(int ms);
     /// On at first: a click anywhere on the balloon fades it out.
     bool hideOnClick() const;
+    /// Whether a click on the balloon fades it out.
     void setHideOnClick(bool hideOnClick);
     /// On at first.
     bool showCloseButton() const;
+    /// Whether the close button shows in the top right corner.
     void setShowCloseButton(bool show);
     /// Only for CustomIcon balloons.
     void setIcon(const QPixmap& icon);
@@ -103,11 +118,13 @@ public:
 public Q_SLOTS:
     /// Starts the fade-out, after which the balloon closes.
     void onCloseTriggered();
+    /// Names the close button in the current language.
     void translate();
     /// Repaints.
     void update();
 
 Q_SIGNALS:
+    /// The user clicked the balloon, whether or not that hides it.
     void clicked();
 
 protected:

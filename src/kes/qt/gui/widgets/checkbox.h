@@ -18,13 +18,19 @@ class CheckBoxPrivate;
 class KES_QT_EXPORT CheckBox : public QCheckBox
 {
     Q_OBJECT
+    /// Whether the user is kept from toggling the box; off by default.
+    Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly)
 
 public:
+    /// An unchecked box without text, not read-only.
     explicit CheckBox(QWidget* parent = nullptr);
+    /// An unchecked box labelled \a text, not read-only.
     explicit CheckBox(const QString& text, QWidget* parent = nullptr);
     ~CheckBox() override;
 
+    /// Whether the user is kept from toggling the box.
     bool isReadOnly() const;
+    /// Keeps the user from toggling the box, or lets them again.
     void setReadOnly(bool readOnly);
 
 protected:

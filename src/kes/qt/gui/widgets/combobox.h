@@ -21,9 +21,12 @@ struct ComboBoxPrivate;
 class KES_QT_EXPORT ComboBox : public QComboBox, public Widget, public UserData<void*>
 {
     Q_OBJECT
+    /// Whether typing tints the field; see Widget::displayStyleTracking().
+    Q_PROPERTY(bool displayStyleTracking READ displayStyleTracking WRITE setDisplayStyleTracking)
 
 public:
     ComboBox();
+    /// A combo box whose signals carry \a userData.
     explicit ComboBox(void* userData);
     ~ComboBox() override;
 
@@ -37,21 +40,35 @@ public Q_SLOTS:
     /// Sets the text as committed; it is not marked as being edited.
     void setEditText(const QString& text);
 
+    /// Re-emits the activation with the user data.
     void on_activated(int index);
+    /// Commits \a text, ends the tint and re-emits the activation with the user data.
     void on_activated(const QString& text);
+    /// Re-emits the change with the user data.
     void on_currentIndexChanged(int index);
+    /// Re-emits the change with the user data.
     void on_currentIndexChanged(const QString& text);
+    /// Re-emits the highlight with the user data.
     void on_highlighted(int index);
+    /// Re-emits the highlight with the user data.
     void on_highlighted(const QString& text);
+    /// Tints the field while the text is the user's typing, and re-emits the change with the user data.
     void on_editTextChanged(const QString& text);
 
 Q_SIGNALS:
+    /// The user chose the entry at \a index.
     void activated(int index, void* userData);
+    /// The user chose or entered \a text, which is now committed.
     void activated(const QString& text, void* userData);
+    /// The current entry changed, by the user or the program.
     void currentIndexChanged(int index, void* userData);
+    /// The current entry changed to \a text.
     void currentIndexChanged(const QString& text, void* userData);
+    /// The text of the editable field changed.
     void editTextChanged(const QString& text, void* userData);
+    /// The user highlighted the entry at \a index in the list.
     void highlighted(int index, void* userData);
+    /// The user highlighted \a text in the list.
     void highlighted(const QString& text, void* userData);
 
 protected:

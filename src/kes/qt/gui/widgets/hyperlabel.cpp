@@ -106,6 +106,11 @@ QString HyperLabel::link() const
     return d->link;
 }
 
+QString HyperLabel::plainText() const
+{
+    return d->text;
+}
+
 void HyperLabel::setText(const QString& text)
 {
     d->text = text;

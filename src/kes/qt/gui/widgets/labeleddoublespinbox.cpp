@@ -45,4 +45,44 @@ QDoubleSpinBox* LabeledDoubleSpinBox::doubleSpinBox() const
     return d->field;
 }
 
+double LabeledDoubleSpinBox::value() const
+{
+    return d->field->value();
+}
+
+void LabeledDoubleSpinBox::setValue(double value)
+{
+    d->field->setValue(value);
+}
+
+int LabeledDoubleSpinBox::decimals() const
+{
+    return d->field->decimals();
+}
+
+void LabeledDoubleSpinBox::setDecimals(int decimals)
+{
+    d->field->setDecimals(decimals);
+}
+
+double LabeledDoubleSpinBox::minimum() const
+{
+    return d->field->minimum();
+}
+
+void LabeledDoubleSpinBox::setMinimum(double minimum)
+{
+    d->field->setMinimum(minimum);
+}
+
+double LabeledDoubleSpinBox::maximum() const
+{
+    return d->field->maximum();
+}
+
+void LabeledDoubleSpinBox::setMaximum(double maximum)
+{
+    d->field->setMaximum(maximum);
+}
+
 } // namespace kes::qt::gui::widgets

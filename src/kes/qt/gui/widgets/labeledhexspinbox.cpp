@@ -50,4 +50,54 @@ void LabeledHexSpinBox::setLineEdit(QLineEdit* edit)
     d->field->setLineEdit(edit);
 }
 
+int LabeledHexSpinBox::value() const
+{
+    return d->field->value();
+}
+
+void LabeledHexSpinBox::setValue(int value)
+{
+    d->field->setValue(value);
+}
+
+int LabeledHexSpinBox::minimum() const
+{
+    return d->field->minimum();
+}
+
+void LabeledHexSpinBox::setMinimum(int minimum)
+{
+    d->field->setMinimum(minimum);
+}
+
+int LabeledHexSpinBox::maximum() const
+{
+    return d->field->maximum();
+}
+
+void LabeledHexSpinBox::setMaximum(int maximum)
+{
+    d->field->setMaximum(maximum);
+}
+
+int LabeledHexSpinBox::textWidth() const
+{
+    return d->field->textWidth();
+}
+
+void LabeledHexSpinBox::setTextWidth(int width)
+{
+    d->field->setTextWidth(width);
+}
+
+bool LabeledHexSpinBox::upperCase() const
+{
+    return d->field->upperCase();
+}
+
+void LabeledHexSpinBox::setUpperCase(bool upperCase)
+{
+    d->field->setUpperCase(upperCase);
+}
+
 } // namespace kes::qt::gui::widgets

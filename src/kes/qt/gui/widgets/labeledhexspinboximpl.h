@@ -18,6 +18,7 @@ class KES_QT_EXPORT LabeledHexSpinBoxImpl : public HexSpinBox
     Q_OBJECT
 
 public:
+    /// A hexadecimal spin box as HexSpinBox makes it.
     explicit LabeledHexSpinBoxImpl(QWidget* parent = nullptr);
     ~LabeledHexSpinBoxImpl() override;
 

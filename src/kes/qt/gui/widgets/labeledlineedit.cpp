@@ -48,4 +48,14 @@ QLineEdit* LabeledLineEdit::lineEdit() const
     return d->field;
 }
 
+QString LabeledLineEdit::text() const
+{
+    return d->field->text();
+}
+
+void LabeledLineEdit::setText(const QString& text)
+{
+    d->field->setText(text);
+}
+
 } // namespace kes::qt::gui::widgets

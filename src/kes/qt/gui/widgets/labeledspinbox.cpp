@@ -50,4 +50,34 @@ void LabeledSpinBox::setLineEdit(QLineEdit* edit)
     d->field->setLineEdit(edit);
 }
 
+int LabeledSpinBox::value() const
+{
+    return d->field->value();
+}
+
+void LabeledSpinBox::setValue(int value)
+{
+    d->field->setValue(value);
+}
+
+int LabeledSpinBox::minimum() const
+{
+    return d->field->minimum();
+}
+
+void LabeledSpinBox::setMinimum(int minimum)
+{
+    d->field->setMinimum(minimum);
+}
+
+int LabeledSpinBox::maximum() const
+{
+    return d->field->maximum();
+}
+
+void LabeledSpinBox::setMaximum(int maximum)
+{
+    d->field->setMaximum(maximum);
+}
+
 } // namespace kes::qt::gui::widgets

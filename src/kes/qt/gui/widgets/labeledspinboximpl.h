@@ -19,6 +19,7 @@ class KES_QT_EXPORT LabeledSpinBoxImpl : public QSpinBox
     Q_OBJECT
 
 public:
+    /// A spin box with Qt's defaults.
     explicit LabeledSpinBoxImpl(QWidget* parent = nullptr);
     ~LabeledSpinBoxImpl() override;
 

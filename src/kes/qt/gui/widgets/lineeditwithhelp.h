@@ -23,7 +23,9 @@ public:
     explicit LineEditWithHelp(QAction* helpAction, QWidget* parent = nullptr);
     ~LineEditWithHelp() override;
 
+    /// The action the context menu ends with; not owned, null for none.
     void setHelpAction(QAction* helpAction);
+    /// The action the context menu ends with, or null.
     QAction* helpAction() const;
 
 protected:

@@ -84,6 +84,11 @@ Progress::Progress(QWidget* parent, bool showCancelButton, const QString& title)
 
 Progress::~Progress() = default;
 
+QString Progress::title() const
+{
+    return d->titleLabel->text();
+}
+
 void Progress::setTitle(const QString& title)
 {
     d->titleLabel->setText(title);

@@ -18,11 +18,17 @@ class ProgressPrivate;
 class KES_QT_EXPORT Progress : public QWidget
 {
     Q_OBJECT
+    /// The text above the wheel.
+    Q_PROPERTY(QString title READ title WRITE setTitle)
 
 public:
+    /// A wheel under \a title, with a "Cancel" button below if \a showCancelButton.
     explicit Progress(QWidget* parent = nullptr, bool showCancelButton = false, const QString& title = QString());
     ~Progress() override;
 
+    /// The text above the wheel.
+    QString title() const;
+    /// Sets the text above the wheel.
     void setTitle(const QString& title);
 
 Q_SIGNALS:
@@ -32,7 +38,9 @@ Q_SIGNALS:
 public Q_SLOTS:
     /// Shows the next frame.
     void on_timer_timeout();
+    /// Stops the wheel and emits cancel().
     void on_cancel_clicked();
+    /// Labels the "Cancel" button in the current language, widening it for longer words.
     void translate();
 
 protected:

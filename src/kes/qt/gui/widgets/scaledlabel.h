@@ -19,7 +19,9 @@ class KES_QT_EXPORT ScaledLabel : public QLabel
     Q_OBJECT
 
 public:
+    /// An empty label; its font follows its size from the first resize on.
     explicit ScaledLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
+    /// A label showing \a text; its font follows its size from the first resize on.
     explicit ScaledLabel(const QString& text, QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~ScaledLabel() override;
 

@@ -30,28 +30,41 @@ struct ScienceSpinBoxPrivate;
 class KES_QT_EXPORT ScienceSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT
+    /// The significant digits shown, 1 to 17.
     Q_PROPERTY(int displayDecimals READ displayDecimals WRITE setDisplayDecimals)
+    /// Whether a step multiplies or divides by ten.
     Q_PROPERTY(bool decadeStepping READ decadeStepping WRITE setDecadeStepping)
+    /// Whether values are shown without an exponent.
     Q_PROPERTY(bool fixedNotation READ fixedNotation WRITE setFixedNotation)
 
 public:
+    /// The whole double range, 12 significant digits, in the locale of \a parent (the default locale for null).
     explicit ScienceSpinBox(QWidget* parent = nullptr);
     ~ScienceSpinBox() override;
 
     /// Precision of the shown text and of round(); 12 by default, kept within 1 to 17 (a double
     /// holds no more significant digits).
     int displayDecimals() const;
+    /// Sets the significant digits shown; kept within 1 to 17.
     void setDisplayDecimals(int decimals);
+    /// Whether a step multiplies or divides by ten; off by default.
     bool decadeStepping() const;
+    /// Makes steps multiply or divide by ten, or add the single step again.
     void setDecadeStepping(bool enable);
     /// Plain 'f' notation instead of 'g' (which switches to an exponent for large and small values).
     bool fixedNotation() const;
+    /// Shows values without an exponent, or in 'g' notation again.
     void setFixedNotation(bool enable);
 
+    /// The verdict of validateAndInterpret() on \a text.
     QValidator::State validate(QString& text, int& pos) const override;
+    /// Removes the digit-group separators.
     void fixup(QString& text) const override;
+    /// One step per call, whatever \a steps says (down for a negative count, else up), so that page keys and fast wheels do not leap decades.
     void stepBy(int steps) override;
+    /// The value of \a text by the box's own rules.
     double valueFromText(const QString& text) const override;
+    /// \a value with displayDecimals() significant digits in the widget's locale.
     QString textFromValue(double value) const override;
 
     /// \a value with displayDecimals() significant digits, in the widget's locale.
@@ -73,7 +86,9 @@ public:
     static bool isIntermediateValueHelper(qint64 num, qint64 min, qint64 max, qint64* match);
 
 public Q_SLOTS:
+    /// One step up.
     void stepUp();
+    /// One step down.
     void stepDown();
 
 protected:

@@ -23,9 +23,12 @@ struct SpinBoxPrivate;
 class KES_QT_EXPORT SpinBox : public QSpinBox, public Widget, public UserData<void*>
 {
     Q_OBJECT
+    /// Whether typing tints the field; see Widget::displayStyleTracking().
+    Q_PROPERTY(bool displayStyleTracking READ displayStyleTracking WRITE setDisplayStyleTracking)
 
 public:
     SpinBox();
+    /// A spin box whose signals carry \a userData.
     explicit SpinBox(void* userData);
     ~SpinBox() override;
 
@@ -41,20 +44,30 @@ public:
     void setMinimum(double minimum);
     /// The integer part of \a maximum, or the int bound it passes (1e20 gives INT_MAX).
     void setMaximum(double maximum);
+    /// As QSpinBox::setRange(); a value the new bounds change is no longer shown as being edited.
     void setRange(int minimum, int maximum);
 
 public Q_SLOTS:
+    /// Sets and commits \a value, as the range clamps it.
     void setValue(int value);
 
+    /// Ends the tint and re-emits the value with the user data; a change that did not come from typing is final at once and also finishes editing.
     void on_valueChanged(int value);
+    /// Re-emits the text with the user data.
     void on_valueChanged(const QString& text);
+    /// Commits the value, ends the tint and emits editingFinished(void*).
     void on_editingFinished();
+    /// Tints the field: the user is typing.
     void on_lineEdit_textChanged(const QString& text);
 
 Q_SIGNALS:
+    /// The value changed to \a i, committed or being typed.
     void valueChanged(int i, void* userData);
+    /// The value's text changed to \a text.
     void valueChanged(const QString& text, void* userData);
+    /// A value was committed by Return, focus loss, a step or the program.
     void editingFinished(void* userData);
+    /// The field lost the keyboard focus, whether or not that committed a value.
     void lostFocus();
 
 protected:

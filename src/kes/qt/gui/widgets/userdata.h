@@ -10,12 +10,15 @@ class UserData
 {
 public:
     UserData() = default;
+    /// Carries \a userData.
     explicit UserData(T userData)
         : m_userData(userData)
     {
     }
 
+    /// The value given to the constructor or setUserData().
     T userData() const { return m_userData; }
+    /// Replaces the carried value.
     void setUserData(T userData) { m_userData = userData; }
 
 private:

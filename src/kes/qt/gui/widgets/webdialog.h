@@ -22,13 +22,17 @@ class KES_QT_EXPORT WebDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// An empty dialog titled "Web page".
     explicit WebDialog(QWidget* parent = nullptr);
     ~WebDialog() override;
 
+    /// Loads \a url into the view; the title follows the page.
     void load(const QUrl& url);
+    /// The view, for settings and navigation.
     QWebView* webView() const;
 
 public Q_SLOTS:
+    /// Titles the dialog in the current language while the page has no title.
     void translate();
 
 private Q_SLOTS:
