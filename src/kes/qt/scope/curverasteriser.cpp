@@ -69,7 +69,6 @@ void CurveRasteriser::draw(const QPointF* points, int count, const QColor& color
 {
     if (!m_painter || !m_painter->isActive() || !points || count <= 0 || m_clip.isEmpty())
         return;
-    m_color = color;
     const QRgb premultiplied = qPremultiply(color.rgba());
     m_pixel = premultiplied;
     m_opaque = color.alpha() == 255;

@@ -39,7 +39,6 @@ private:
     uchar* m_bits = nullptr;
     qsizetype m_stride = 0;
     QRect m_clip;
-    QColor m_color;
     quint32 m_pixel = 0;         // premultiplied
     quint32 m_inverseAlpha = 0;
     bool m_opaque = true;
