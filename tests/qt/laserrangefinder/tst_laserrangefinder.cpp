@@ -112,20 +112,27 @@ private Q_SLOTS:
         QFETCH(float, maxRange);
         QFETCH(int, lines);
         QFETCH(double, axis);
-        Scene scene;
-        scene.setData(scan(-135, 135, maxRange, {1.0f, 2.0f}));
-        QCOMPARE(int(scene.gridLines().size()), lines);
-        QCOMPARE(scene.xAxis()->line(), QLineF(-axis, 0, axis, 0));
-        QCOMPARE(scene.yAxis()->line(), QLineF(0, -axis, 0, axis));
-        if (maxRange == 3.2f) {
+        // A fresh scene, and scenes whose grid shrinks or grows to this range.
+        for (float before : {0.0f, 7.5f, 1.0f}) {
+            Scene scene;
+            if (before > 0.0f)
+                scene.setData(scan(-135, 135, before, {1.0f}));
+            scene.setData(scan(-135, 135, maxRange, {1.0f, 2.0f}));
+            QCOMPARE(int(scene.gridLines().size()), lines);
+            QCOMPARE(scene.xAxis()->line(), QLineF(-axis, 0, axis, 0));
+            QCOMPARE(scene.yAxis()->line(), QLineF(0, -axis, 0, axis));
+            const int e = 100 * (lines / 4);
             QSet<QString> expected;
-            for (int m : {100, 200, 300, 400, -100, -200, -300, -400}) {
-                expected << QStringLiteral("y=%1 x -400..400").arg(m) << QStringLiteral("x=%1 y -400..400").arg(m);
+            for (int m = 100; m <= e; m += 100) {
+                for (int s : {m, -m})
+                    expected << QStringLiteral("y=%1 x %2..%3").arg(s).arg(-e).arg(e)
+                             << QStringLiteral("x=%1 y %2..%3").arg(s).arg(-e).arg(e);
             }
             QCOMPARE(gridSet(scene), expected);
+            for (const auto* item : scene.items())
+                QVERIFY(finite(item->sceneBoundingRect()));
+            QCOMPARE(scene.items().size(), 4 + lines + 2); // no line left over from before
         }
-        for (const auto* item : scene.items())
-            QVERIFY(finite(item->sceneBoundingRect()));
     }
 
     void dots_data()

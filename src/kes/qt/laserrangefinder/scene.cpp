@@ -190,21 +190,31 @@ void Scene::cleanup()
 
 void Scene::resetGrid()
 {
-    for (QGraphicsLineItem* line : d->gridLines)
-        delete line;
-    d->gridLines.clear();
-
     const int n = gridMetres(d->rangeMax);
+    const std::size_t wanted = std::size_t(4 * n);
+    // The items already there are moved rather than deleted and made anew: a scanner whose
+    // reported range wobbles by a few centimetres keeps its grid, and Qt's removal of an item
+    // from a scene costs time in proportion to the items left in it.
+    while (d->gridLines.size() > wanted) {
+        delete d->gridLines.back();
+        d->gridLines.pop_back();
+    }
     const qreal extent = 100.0 * n;
     const QPen pen(Qt::gray);
-    d->gridLines.reserve(std::size_t(4 * n));
+    d->gridLines.reserve(wanted);
+    std::size_t i = 0;
     for (int k = 1; k <= n; ++k) {
         const qreal m = 100.0 * k;
         for (const QLineF& line : {QLineF(-extent, m, extent, m), QLineF(-extent, -m, extent, -m),
                                    QLineF(m, -extent, m, extent), QLineF(-m, -extent, -m, extent)}) {
-            QGraphicsLineItem* item = addLine(line, pen);
-            item->setZValue(gridZ);
-            d->gridLines.push_back(item);
+            if (i < d->gridLines.size()) {
+                d->gridLines[i]->setLine(line);
+            } else {
+                QGraphicsLineItem* item = addLine(line, pen);
+                item->setZValue(gridZ);
+                d->gridLines.push_back(item);
+            }
+            ++i;
         }
     }
     const qreal axis = 100.0 * (n + 1);
