@@ -63,6 +63,9 @@ MainWindow::MainWindow(QWidget* parent)
     m_pageList->setSelectionMode(QAbstractItemView::SingleSelection);
     m_pageList->setUniformItemSizes(true);
     m_pageList->setMinimumWidth(140);
+    // Titles are elided if the splitter is dragged narrow; a navigation list never scrolls sideways.
+    m_pageList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_pageList->setTextElideMode(Qt::ElideRight);
     // The default rows are as tight as a file list; a navigation list reads better with air.
     m_pageList->setStyleSheet(QStringLiteral("QListView::item { padding: 6px 10px; }"));
 
